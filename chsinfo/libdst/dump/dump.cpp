@@ -1,0 +1,127 @@
+// display_dst_info(): the model as indented, XML-like text on standard output, section by section.
+// A new leaf is a row of its record's table. A new section is a function, called by display_dst_info() in its place.
+#include "../model/kinds.h"
+#include "chsinfo/libdst.h"
+#include "print.h"
+
+namespace dst {
+
+static constexpr leaf<chassis_info_t> chassis_leaves[] = {
+    {"VERSION", [](const auto &c) { return dec(c.major); }},
+    {"FAMILY", [](const auto &c) { return name(dst_chassis_family_type, c.family); }},
+    {"NDRAMSLOTS", [](const auto &c) { return dec(c.ndram_slots); }},
+    {"NFANSLOTS", [](const auto &c) { return dec(c.nfan_slots); }},
+    {"NFPCSLOTS", [](const auto &c) { return dec(c.nfpc_slots); }},
+    {"NSIBSLOTS", [](const auto &c) { return dec(c.nsib_slots); }},
+    {"NFPMSLOTS", [](const auto &c) { return dec(c.nfpm_slots); }},
+    {"NFTCSLOTS", [](const auto &c) { return dec(c.nftc_slots); }},
+    {"NCBSLOTS", [](const auto &c) { return dec(c.ncb_slots); }},
+    {"NPEMSLOTS", [](const auto &c) { return dec(c.npem_slots); }},
+    {"NPICSLOTS", [](const auto &c) { return dec(c.npic_slots); }},
+    {"NFPGAS", [](const auto &c) { return dec(c.nfpgas); }},
+    {"NTMPSENSORS", [](const auto &c) { return dec(c.ntmpsnrs); }},
+    {"NVOLTSENSORS", [](const auto &c) { return dec(c.nvoltsnrs); }},
+    {"NFPLEDS", [](const auto &c) { return dec(c.nfpleds); }},
+    {"NBPLEDS", [](const auto &c) { return dec(c.nbpleds); }},
+    {"NBUTTONS", [](const auto &c) { return dec(c.nbuttons); }},
+    {"FEATURE", [](const auto &c) { return dec(c.feature); }},
+    {"RESILIENCY", [](const auto &c) { return dec(c.enable_resiliency); }},
+    {"SIBINITSPMB", [](const auto &c) { return dec(c.sib_init_spmb); }},
+};
+
+static constexpr leaf<i2c_dev_info_t> i2cdev_leaves[] = {
+    {"NAME", [](const auto &d) { return text(d.name); }},
+    {"PARENT", [](const auto &d) { return text(d.parent); }},
+    {"I2CADDR", [](const auto &d) { return hex(d.i2caddr); }},
+    {"SEGMENT", [](const auto &d) { return hex(d.segment); }},
+    {"LOCATION", [](const auto &d) { return text(d.location); }},
+    {"SYSPATH", [](const auto &d) { return text(d.syspath); }},
+    {"DRIVERID", [](const auto &d) { return dec(d.driver_id); }},
+    {"REGOFFSET", [](const auto &d) { return dec(d.reg_offset); }},
+    {"MUXADDR", [](const auto &d) { return hex(d.muxaddr); }},
+    {"MUXADDR1", [](const auto &d) { return hex(d.muxaddr1); }},
+    {"MUXADDR2", [](const auto &d) { return hex(d.muxaddr2); }},
+};
+
+// The FRU of a device; -1 where the link is missing.
+static value fru_id(const fru_info_t *fru) { return dec(fru ? fru->id : static_cast<uint32_t>(-1)); }
+
+static constexpr leaf<pic_info_t> pic_leaves[] = {
+    {"NAME", [](const auto &p) { return text(p.name); }},
+    {"PICI2CID", [](const auto &p) { return hex(p.pic_i2cid); }},
+    {"DRIVERID", [](const auto &p) { return dec(p.driver_id); }},
+    {"CAPABILITY", [](const auto &p) { return dec(p.capablility); }},
+    {"FRUID", [](const auto &p) { return fru_id(p.fru_info); }},
+};
+
+static value flag(bool set) { return text(set ? "true" : "false"); }
+
+static constexpr leaf<fru_info_t> fru_leaves[] = {
+    {"NAME", [](const auto &f) { return text(f.name); }},
+    {"SLOTID", [](const auto &f) { return dec(f.slot); }},
+    {"LOGICAL_SLOTID", [](const auto &f) { return dec(f.logical_slot); }},
+    {"PARENT", [](const auto &f) { return f.parent ? dec(f.parent->id) : text("NULL"); }},
+    {"I2CDEVID", [](const auto &f) { return f.i2cdev ? dec(f.i2cdev->id) : text("-1"); }},
+    {"I2CDEVEXTID", [](const auto &f) { return f.i2cdev_ext ? dec(f.i2cdev_ext->id) : no_line(); }},
+    {"DRIVERID", [](const auto &f) { return dec(f.driverid); }},
+    {"TYPE",
+     [](const auto &f) {
+         return f.fru_removable_type ? name(dst_fru_removable_type, f.fru_removable_type) : no_line();
+     }},
+    {"EPMVALID", [](const auto &f) { return flag(f.epmvalid); }},
+    {"EPMSIZE", [](const auto &f) { return dec(f.epmsize); }},
+    {"HYST_OFFSET", [](const auto &f) { return flag(f.hyst_offset); }},
+    {"MAX_ALARM_REASONS", [](const auto &f) { return flag(f.max_alarm_reasons); }},
+};
+
+// All records of a kind inside one DEVICE element, which is left out when there are none.
+template <class K> static void print_section(libdst_chs_info_t *model, int device, auto print_record) {
+    if (!K::list(model).tqh_first)
+        return;
+    print_open(4, "DEVICE", {{"type", name(dst_dev_type, device)}});
+    for (const auto &record : records<K>(model))
+        print_record(record);
+    print_close(4, "DEVICE");
+}
+
+// A DEVICE element for each record of a kind.
+template <class K> static void print_devices(libdst_chs_info_t *model, int device, auto print_content) {
+    for (const auto &record : records<K>(model)) {
+        print_open(4, "DEVICE",
+                   {{"id", dec(record.id)},
+                    {"type", name(dst_dev_type, device)},
+                    {"ctrl", name(dst_ctrl_type, record.ctrl_type)}});
+        print_content(record);
+        print_close(4, "DEVICE");
+    }
+}
+
+// A record that is all leaves, with its "id" and "type".
+template <class R, std::size_t N>
+static void print_record(int indent, const char *element, value type, const leaf<R> (&leaves)[N], const R &record) {
+    print_open(indent, element, {{"id", dec(record.id)}, {"type", type}});
+    print_leaves(indent + 4, leaves, record);
+    print_close(indent, element);
+}
+
+static void print_i2c_device(const i2c_dev_info_t &device) {
+    print_record(8, "I2CDEV", name(dst_i2c_type, device.type), i2cdev_leaves, device);
+}
+
+static void print_fru(const fru_info_t &fru) {
+    print_record(8, "FRUDEV", name(dst_fru_type, fru.fru_type), fru_leaves, fru);
+}
+
+} // namespace dst
+
+void display_dst_info(void) {
+    libdst_chs_info_t *model = libdst_get_chs_info();
+    std::puts("\n\n============== DST info =============");
+    dst::print_open(0, "CHASSIS");
+    dst::print_leaves(4, dst::chassis_leaves, model->chs_cinfo.chs_info);
+    dst::print_section<dst::i2c_devices>(model, DST_I2C_DEV_IDX, dst::print_i2c_device);
+    dst::print_devices<dst::pics>(model, DST_PIC_DEV_IDX,
+                                  [](const auto &pic) { dst::print_leaves(8, dst::pic_leaves, pic); });
+    dst::print_section<dst::frus>(model, DST_FRU_DEV_IDX, dst::print_fru);
+    dst::print_close(0, "CHASSIS");
+}

@@ -1,0 +1,141 @@
+// The linking pass: ids that records carry become pointers within the model. A new device family gets its pass and its
+// row in libdst_dev_transform_handler().
+#include "link.h"
+
+#include <cstdint>
+
+#include "chsinfo/libdst_priv.h"
+#include "kinds.h"
+#include "log.h"
+
+namespace dst {
+
+constexpr uint32_t no_parent = 0xFFFFFFFF;
+constexpr int32_t no_i2c_device = -1;
+
+static fru_info_t *fru_by_id(libdst_chs_info_t *model, uint32_t id) {
+    for (fru_info_t &fru : records<frus>(model))
+        if (fru.id == id)
+            return &fru;
+    return nullptr;
+}
+
+// `word` names the family in the messages, which end with `line_end`.
+template <class K>
+static int link_frus(const char *func, libdst_chs_info_t *model, const char *word, const char *line_end = "") {
+    if (!K::list(model).tqh_first) {
+        log_at(LOG_INFO, func, "%s info list is empty!%s", word, line_end);
+        return 0;
+    }
+    if (!model->fru_info.tqh_first) {
+        log_err(func, "fru info list is empty!%s", line_end);
+        return -1;
+    }
+    for (auto &node : entries(K::list(model))) {
+        fru_info_t *fru = fru_by_id(model, node.fru_id);
+        if (!fru) {
+            log_err(func, "Invalid fru info in %s info!%s", word, line_end);
+            return -1;
+        }
+        K::record(&node)->fru_info = fru;
+    }
+    return 0;
+}
+
+// The walk ends once everything wanted is found. Until then a later device with the primary id replaces the link.
+static void link_i2c_devices(libdst_chs_info_t *model, fru_module_list_t &entry) {
+    fru_info_t &fru = entry.fru_minfo;
+    for (i2c_dev_info_t &device : records<i2c_devices>(model)) {
+        if (device.id == static_cast<uint32_t>(entry.i2cdev_id))
+            fru.i2cdev = &device;
+        if (entry.i2cdev_id_ext == no_i2c_device)
+            fru.i2cdev_ext = nullptr;
+        else if (device.id == static_cast<uint32_t>(entry.i2cdev_id_ext))
+            fru.i2cdev_ext = &device;
+        if (fru.i2cdev && (entry.i2cdev_id_ext == no_i2c_device || fru.i2cdev_ext))
+            return;
+    }
+}
+
+} // namespace dst
+
+int libdst_dev_trans_fpc(libdst_chs_info_t *model) { return dst::link_frus<dst::fpcs>(__func__, model, "fpc"); }
+int libdst_dev_trans_sib(libdst_chs_info_t *model) { return dst::link_frus<dst::sibs>(__func__, model, "sib"); }
+int libdst_dev_trans_fpm(libdst_chs_info_t *model) { return dst::link_frus<dst::fpms>(__func__, model, "fpm"); }
+int libdst_dev_trans_ftc(libdst_chs_info_t *model) { return dst::link_frus<dst::ftcs>(__func__, model, "ftc"); }
+int libdst_dev_trans_cb(libdst_chs_info_t *model) { return dst::link_frus<dst::cbs>(__func__, model, "cb"); }
+int libdst_dev_trans_pem(libdst_chs_info_t *model) { return dst::link_frus<dst::pems>(__func__, model, "pem"); }
+int libdst_dev_trans_fan(libdst_chs_info_t *model) { return dst::link_frus<dst::fans>(__func__, model, "fan"); }
+int libdst_dev_trans_pic(libdst_chs_info_t *model) { return dst::link_frus<dst::pics>(__func__, model, "pic"); }
+int libdst_dev_trans_tib(libdst_chs_info_t *model) { return dst::link_frus<dst::tibs>(__func__, model, "tib", "\n"); }
+int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model) {
+    return dst::link_frus<dst::tmpsnrs>(__func__, model, "temperature sensor");
+}
+int libdst_dev_trans_voltsnr(libdst_chs_info_t *model) {
+    return dst::link_frus<dst::voltsnrs>(__func__, model, "voltage sensor");
+}
+int libdst_dev_trans_led(libdst_chs_info_t *model) { return dst::link_frus<dst::leds>(__func__, model, "led"); }
+int libdst_dev_trans_lcd(libdst_chs_info_t *model) { return dst::link_frus<dst::lcds>(__func__, model, "lcd"); }
+int libdst_dev_trans_btn(libdst_chs_info_t *model) { return dst::link_frus<dst::btns>(__func__, model, "btn"); }
+
+int libdst_dev_trans_fru(libdst_chs_info_t *model) {
+    if (!model->fru_info.tqh_first) {
+        dst::log_at(LOG_INFO, __func__, "fru info list is empty!");
+        return 0;
+    }
+    if (!model->chs_cinfo.i2cdev_info_list.tqh_first) {
+        dst::log_at(LOG_INFO, __func__, "i2c dev info list is empty!");
+        return 0;
+    }
+    for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
+        entry.fru_minfo.i2cdev = nullptr;
+        if (entry.i2cdev_id < 0)
+            continue;
+        dst::link_i2c_devices(model, entry);
+        if (!entry.fru_minfo.i2cdev) {
+            dst::log_err(__func__, "Invalid i2c dev info in fru info!");
+            return -1;
+        }
+    }
+    for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
+        entry.fru_minfo.parent = nullptr;
+        if (entry.parent_id == dst::no_parent)
+            continue;
+        entry.fru_minfo.parent = dst::fru_by_id(model, entry.parent_id);
+        if (!entry.fru_minfo.parent) {
+            dst::log_err(__func__, "Invalid parent fru dev info!");
+            return -1;
+        }
+    }
+    return 0;
+}
+
+int libdst_dev_transform_handler(libdst_chs_info_t *model) {
+    static const struct {
+        int (*pass)(libdst_chs_info_t *model);
+        const char *failure;
+        bool fatal;
+    } passes[] = {
+        {libdst_dev_trans_fpc, "Failed in setting the fru pointer in fpc device info!\n", true},
+        {libdst_dev_trans_sib, "Failed in setting the fru pointer in sib device info!\n", true},
+        {libdst_dev_trans_fpm, "Failed in setting the fru pointer in fpm device info!\n", true},
+        {libdst_dev_trans_ftc, "Failed in setting the fru pointer in ftc device info!\n", true},
+        {libdst_dev_trans_cb, "Failed in setting the fru pointer in cb device info!\n", true},
+        {libdst_dev_trans_pem, "Failed in setting the fru pointer in pem device info!\n", true},
+        {libdst_dev_trans_fan, "Failed in setting the fru pointer in fan device info!\n", true},
+        {libdst_dev_trans_pic, "Failed in setting the fru pointer in pic device info!\n", false},
+        {libdst_dev_trans_tib, "Failed in setting the fru pointer in tib device info!\n", true},
+        {libdst_dev_trans_tmpsnr, "Failed in setting the i2c dev ptr in temperature sensor info!\n", true},
+        {libdst_dev_trans_voltsnr, "Failed in setting the i2c dev ptr in voltage sensor info!\n", true},
+        {libdst_dev_trans_led, "Failed in setting the i2c dev ptr in led info!\n", true},
+        {libdst_dev_trans_lcd, "Failed in setting the fru dev ptr in lcd info!\n", true},
+        {libdst_dev_trans_btn, "Failed in setting the i2c dev ptr in btn info!\n", true},
+        {libdst_dev_trans_fru, "Failed in setting the i2c dev ptr in fru info!\n", true},
+    };
+    for (const auto &step : passes) {
+        const int rc = dst::check(__func__, step.pass(model), step.failure);
+        if (rc < 0 && step.fatal)
+            return rc;
+    }
+    return 0;
+}

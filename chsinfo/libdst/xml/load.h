@@ -1,0 +1,32 @@
+// Loading the XML form: validation, then reading. Each entry point without arguments has one beneath it, of the same
+// name, that takes the files.
+#pragma once
+
+#include <cstdio>
+#include <libxml/tree.h>
+
+#include "chsinfo/libdst_priv.h"
+
+namespace dst {
+
+// What a load reads and where it prints. The schema dump is left out where `schema_dump` is null.
+struct xml_source {
+    const char *document;
+    const char *schema;
+    FILE *schema_dump;
+    FILE *verdict;
+};
+
+} // namespace dst
+
+// Reads the document into `chs_info`, linked; on failure `chs_info` is all zero.
+int libdst_init(const dst::xml_source &source);
+int libdst_xml_parse(const dst::xml_source &source);
+int libdst_xml_parse(void);
+
+// Checks the document against the schema and prints the verdict. 0 for a valid document, else -1.
+int libdst_xml_validation(const dst::xml_source &source);
+int libdst_xml_validation(void);
+
+// Checks the root element and reads it into the model.
+int libdst_root_handler(xmlDocPtr doc, libdst_chs_info_t *model);

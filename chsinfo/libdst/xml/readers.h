@@ -1,0 +1,21 @@
+// The readers of the XML form, across its files. All fill the model that the root walk hands them and return 0 or more;
+// or a negative value, logged under the reporting function's name, with what they built released.
+#pragma once
+
+#include <libxml/tree.h>
+
+#include "chsinfo/libdst.h"
+#include "rows.h"
+
+using xml_tag_parser_chsinfo_t = dst::tag_entry<libdst_chs_info_t>;
+
+// The root walk: reads the children of the root element into `cinfo`, all or nothing.
+int libdst_root_tag(xmlDocPtr pdoc, xmlNodePtr node, libdst_chs_info_t *cinfo);
+
+// A DEVICE element, by its "type" attribute.
+int libdst_device_tag_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+
+// The device readers, one a file.
+int libdst_dev_i2c_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_fru_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_pic_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);

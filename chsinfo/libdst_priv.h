@@ -1,0 +1,53 @@
+/* The interface between the folders of the library: the operations table and the readers' entry points.
+ * Installed for hosts that exchange an operation, and for tests; libdst.h is the interface for everyone else. */
+#ifndef CHSINFO_LIBDST_PRIV_H
+#define CHSINFO_LIBDST_PRIV_H
+
+#include "libdst.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** The operations behind the exported functions, one slot each (see chassis_ops.def). A null slot is an operation that
+ * is not provided: its wrapper answers null, or -1 where the result is an int. */
+typedef struct _chassis_ops_s {
+#define SLOT(result, slot, operation, parameters) result(*slot) parameters;
+#define QUERY(result, slot, operation, wrapper, parameters, arguments) SLOT(result, slot, operation, parameters)
+#include "chassis_ops.def"
+#undef QUERY
+#undef SLOT
+} chassis_ops_t;
+
+/** The one table of the library, every slot filled. Writable: a host may take an operation out (null) or put its own
+ * in, while no other thread uses the library. */
+extern DST_API chassis_ops_t chassis_priv_ops;
+
+/** The table that libchs_init() binds: always `&chassis_priv_ops`. */
+DST_API chassis_ops_t *libc_get_priv_ops(void);
+
+/** The operation behind libdst_fru_info_get_id_by_type_slotno(), callable without a bound table. */
+DST_API int fru_info_get_id_by_type_slotno_priv(fru_type_t fru_type, uint32_t slotno, uint32_t *fru_id);
+
+/** Reads "/var/platform/chassis_dst.xml" into `chs_info` and links it. Returns 0, or a negative value with `chs_info`
+ * all zero; every failure is logged at LOG_ERR. What `chs_info` held before is forgotten, not released. */
+DST_API int libdst_init(void);
+
+/** Initialises libxml2's parser and checks its version (a mismatch is reported on standard error). */
+DST_API void libxml_init(void);
+
+/** Cleans libxml2's parser up: a host that uses libxml2 itself must not rely on its global state across this call. */
+DST_API void libxml_shutdown(void);
+
+/** Frees everything that `chs_info` owns and zeroes it. Harmless on an empty model. */
+DST_API void libdst_release(void);
+
+/** Turns the ids that the records of `chs_info` carry into pointers. Returns 0; or -1, logged, at the first device
+ * whose FRU, or FRU whose I2C device or parent, does not exist (a PIC without its FRU is logged only). */
+DST_API int libdst_dev_transform_handler(libdst_chs_info_t *chs_info);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

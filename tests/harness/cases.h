@@ -1,0 +1,29 @@
+// The text tables in tests/cases/: a document, and what loading it gives. In a .cases file:
+//
+//   === what the case shows
+//   <DEVICE type="i2c">...            a fragment of CHASSIS, or a whole document
+//   --- dump                          it loads: the dump, less what an empty chassis prints
+//   --- shows                         or: lines that the dump shows, in this order, others between them
+//   --- log                           with it: the lines at LOG_ERR (none without this heading)
+//   --- fails                         or the root walk fails: the lines at LOG_ERR, less the fixed ones after them
+//   --- fails linking                 or the linking fails: likewise
+//
+// Indentation of expected lines does not count. Lines before the first case are a comment.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+struct load_case {
+    std::string file;
+    int line;
+    std::string name;
+    std::string document;
+    std::map<std::string, std::vector<std::string>> expected; // by heading
+};
+
+std::vector<load_case> all_cases();
+
+// The lines that follow those of a "fails" heading.
+std::vector<std::string> failure_tail(const std::string &heading);

@@ -1,0 +1,27 @@
+// A load of a document through libchs_init(), on the real paths, with everything it said.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "capture.h"
+#include "sandbox.h"
+
+struct load_result {
+    int status;
+    std::vector<log_line> log;
+    std::string out;
+    std::string err;
+
+    // The lines of the dump; none when nothing was dumped.
+    std::vector<std::string> dump() const;
+};
+
+// Calls libchs_init() on what stands in /var/platform.
+load_result load();
+
+// The same with this document and a schema that lets everything through. A fragment becomes the content of CHASSIS.
+load_result load(const std::string &document);
+
+// Whether every byte of `chs_info` is zero.
+bool model_is_zero();

@@ -30,6 +30,10 @@ static void read_cases(const std::filesystem::path &path, std::vector<load_case>
     }
 }
 
+std::ostream &operator<<(std::ostream &out, const load_case &one) {
+    return out << one.file << ".cases:" << one.line << ": " << one.name;
+}
+
 std::vector<load_case> all_cases() {
     std::vector<std::filesystem::path> paths;
     for (const auto &entry : std::filesystem::directory_iterator(DST_TEST_DATA))

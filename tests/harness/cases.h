@@ -12,6 +12,7 @@
 #pragma once
 
 #include <map>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ struct load_case {
     std::string document;
     std::map<std::string, std::vector<std::string>> expected; // by heading
 };
+
+std::ostream &operator<<(std::ostream &out, const load_case &one); // where it stands: file and line
 
 std::vector<load_case> all_cases();
 

@@ -35,7 +35,7 @@ void enter_sandbox() {
         write_map("/proc/self/uid_map", "0 " + std::to_string(uid) + " 1");
         write_map("/proc/self/gid_map", "0 " + std::to_string(gid) + " 1");
     }
-    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+    if (mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("tmpfs", "/var", "tmpfs", 0, nullptr) != 0 || mkdir("/var/platform", 0755) != 0)
         refuse("mount");
 }

@@ -9,6 +9,10 @@
 
 namespace {
 
+std::string unindented(const std::string &line) {
+    return line.substr(std::min(line.find_first_not_of(' '), line.size()));
+}
+
 // The lines of a dump that an empty chassis does not print, less their indentation.
 std::vector<std::string> beyond_empty(const std::vector<std::string> &dump) {
     static const std::vector<std::string> empty = [] {
@@ -23,7 +27,7 @@ std::vector<std::string> beyond_empty(const std::vector<std::string> &dump) {
         if (header || leaf)
             ++at;
         if (!header)
-            rest.push_back(dump[i].substr(dump[i].find_first_not_of(' ')));
+            rest.push_back(unindented(dump[i]));
     }
     return rest;
 }
@@ -44,7 +48,7 @@ class Case : public testing::TestWithParam<load_case> {};
 
 TEST_P(Case, Loads) {
     const load_case &one = GetParam();
-    SCOPED_TRACE(one.file + ".cases:" + std::to_string(one.line));
+    SCOPED_TRACE(one);
     beyond_empty({});
     const load_result result = load(one.document);
     const auto errors = texts_of(result.log, LOG_ERR);

@@ -1,8 +1,6 @@
 // display_dst_info(): the model as indented, XML-like text on standard output, section by section.
 // A new leaf is a row of its record's table. A new section is a function, called by display_dst_info() in its place.
-#include "../model/kinds.h"
-#include "chsinfo/libdst.h"
-#include "print.h"
+#include "sections.h"
 
 namespace dst {
 
@@ -74,16 +72,6 @@ static constexpr leaf<fru_info_t> fru_leaves[] = {
     {"MAX_ALARM_REASONS", [](const auto &f) { return flag(f.max_alarm_reasons); }},
 };
 
-// All records of a kind inside one DEVICE element, which is left out when there are none.
-template <class K> static void print_section(libdst_chs_info_t *model, int device, auto print_record) {
-    if (!K::list(model).tqh_first)
-        return;
-    print_open(4, "DEVICE", {{"type", name(dst_dev_type, device)}});
-    for (const auto &record : records<K>(model))
-        print_record(record);
-    print_close(4, "DEVICE");
-}
-
 // A DEVICE element for each record of a kind.
 template <class K> static void print_devices(libdst_chs_info_t *model, int device, auto print_content) {
     for (const auto &record : records<K>(model)) {
@@ -94,14 +82,6 @@ template <class K> static void print_devices(libdst_chs_info_t *model, int devic
         print_content(record);
         print_close(4, "DEVICE");
     }
-}
-
-// A record that is all leaves, with its "id" and "type".
-template <class R, std::size_t N>
-static void print_record(int indent, const char *element, value type, const leaf<R> (&leaves)[N], const R &record) {
-    print_open(indent, element, {{"id", dec(record.id)}, {"type", type}});
-    print_leaves(indent + 4, leaves, record);
-    print_close(indent, element);
 }
 
 static void print_i2c_device(const i2c_dev_info_t &device) {
@@ -119,9 +99,14 @@ void display_dst_info(void) {
     std::puts("\n\n============== DST info =============");
     dst::print_open(0, "CHASSIS");
     dst::print_leaves(4, dst::chassis_leaves, model->chs_cinfo.chs_info);
+    dst::print_fru_models(model);
+    dst::print_chassis_models(model);
     dst::print_section<dst::i2c_devices>(model, DST_I2C_DEV_IDX, dst::print_i2c_device);
+    dst::print_asics(model);
+    dst::print_optics(model);
     dst::print_devices<dst::pics>(model, DST_PIC_DEV_IDX,
                                   [](const auto &pic) { dst::print_leaves(8, dst::pic_leaves, pic); });
     dst::print_section<dst::frus>(model, DST_FRU_DEV_IDX, dst::print_fru);
+    dst::print_resiliency(model);
     dst::print_close(0, "CHASSIS");
 }

@@ -17,6 +17,7 @@ struct value {
 };
 constexpr value dec(uint32_t number) { return {"%d", number, nullptr}; }
 constexpr value hex(uint32_t number) { return {"0x%x", number, nullptr}; }
+constexpr value bare_hex(uint32_t number) { return {"%x", number, nullptr}; }
 constexpr value no_line() { return {nullptr, 0, nullptr}; } // the leaf is left out
 constexpr value text(const char *shown) { return {"%s", 0, shown}; }
 template <std::size_t Rows> value name(const char *const (&table)[Rows], int index) {

@@ -4,7 +4,9 @@
 #define DEVICE_TYPES(ROW, T)                                                                                           \
     ROW(T, CALL, "i2c", libdst_dev_i2c_op)                                                                             \
     ROW(T, CALL, "PIC", libdst_dev_pic_op)                                                                             \
-    ROW(T, CALL, "FRU", libdst_dev_fru_op)
+    ROW(T, CALL, "FRU", libdst_dev_fru_op)                                                                             \
+    ROW(T, CALL, "optics", libdst_dev_optics_op)                                                                       \
+    ROW(T, CALL, "asic", libdst_dev_asic_op)
 DST_TABLE(dst_tag_dev_op, xml_tag_parser_chsinfo_t, libdst_chs_info_t, DEVICE_TYPES)
 
 int libdst_device_tag_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model) {

@@ -19,3 +19,5 @@ int libdst_device_tag_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *mo
 int libdst_dev_i2c_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 int libdst_dev_fru_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 int libdst_dev_pic_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_optics_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_asic_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);

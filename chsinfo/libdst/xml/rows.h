@@ -72,5 +72,8 @@ int walk(const char *func, const tag_entry<T> *table, xmlDocPtr doc, xmlNodePtr 
         dst::kind_of(dst::element_text(doc, node), names, first, last, &to->member);                                   \
         return 0;                                                                                                      \
     }
+// A nested element: walks its children into a part of the record, `to->part`, or into the whole of it, `*to`.
+#define DST_HANDLER_NEST(T, element, handler, table, part, failure)                                                    \
+    DST_FUNCTION(T, handler) { return dst::walk(__func__, table, doc, node, &(part), failure); }
 // Written by hand, above the table.
 #define DST_HANDLER_CALL(T, element, handler)

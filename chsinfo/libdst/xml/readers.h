@@ -12,6 +12,10 @@ using xml_tag_parser_chsinfo_t = dst::tag_entry<libdst_chs_info_t>;
 // The root walk: reads the children of the root element into `cinfo`, all or nothing.
 int libdst_root_tag(xmlDocPtr pdoc, xmlNodePtr node, libdst_chs_info_t *cinfo);
 
+// The models, elements of the root.
+int libdst_frumodel_tag_op(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *model);
+int libdst_chsmodel_tag_op(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *model);
+
 // A DEVICE element, by its "type" attribute.
 int libdst_device_tag_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 

@@ -35,6 +35,8 @@
         chs_cinfo.chs_info.pci_subaddr2_mezz)                                                                          \
     ROW(T, LENIENT, "LSPCI_OVERRIDE", libdst_lspci_override_tag_op, libdst_parse_tag_uint32,                           \
         chs_cinfo.chs_info.lspci_override)                                                                             \
+    ROW(T, CALL, "FRUMODEL", libdst_frumodel_tag_op)                                                                   \
+    ROW(T, CALL, "MODEL", libdst_chsmodel_tag_op)                                                                      \
     ROW(T, CALL, "DEVICE", libdst_device_tag_op)
 DST_TABLE(dst_tag_chs_op, xml_tag_parser_chsinfo_t, libdst_chs_info_t, CHASSIS_ELEMENTS)
 

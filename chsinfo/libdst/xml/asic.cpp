@@ -29,16 +29,9 @@ DST_TABLE(dst_tag_asic_cb_port_op, xml_tag_parser_asic_cb_port_t, bcm_port_info_
 
 static int libdst_dev_asic_cb_port_id_attr(xmlDocPtr, xmlNodePtr node, uint32_t *id) { return dst::id_attr(node, id); }
 
-static int libdst_dev_asic_cb_port_tag_op(xmlDocPtr doc, xmlNodePtr node, bcm_chip_info_t *to) {
-    auto port = dst::make<bcm_port_info_t>();
-    if (!port)
-        return dst::check(__func__, -1, dst::no_memory);
-    int rc = dst::check(__func__, libdst_dev_asic_cb_port_id_attr(doc, node, &port->id), "could not get port id!");
-    if (rc >= 0)
-        rc = dst::walk(__func__, dst_tag_asic_cb_port_op, doc, node, port.get(), "failed in parsing cb port tag!");
-    if (rc >= 0)
-        dst::append(to->port_info, port.release());
-    return rc;
+static int read_port(const char *func, xmlDocPtr doc, xmlNodePtr node, bcm_port_info_t *port) {
+    const int rc = dst::check(func, libdst_dev_asic_cb_port_id_attr(doc, node, &port->id), "could not get port id!");
+    return rc < 0 ? rc : dst::walk(func, dst_tag_asic_cb_port_op, doc, node, port, "failed in parsing cb port tag!");
 }
 
 #define CHIP_ELEMENTS(ROW, T)                                                                                          \
@@ -50,7 +43,7 @@ static int libdst_dev_asic_cb_port_tag_op(xmlDocPtr doc, xmlNodePtr node, bcm_ch
     ROW(T, FIELD, "SYSTEMPREDRIVER", libdst_dev_asic_cb_spd_tag_op, libdst_parse_tag_uint32, system_predriver)         \
     ROW(T, FIELD, "LEDPROGRAM", libdst_dev_asic_cb_lp_tag_op, libdst_parse_tag_uint32, led_program)                    \
     ROW(T, FIELD, "LEDPROGRAMLEN", libdst_dev_asic_cb_lpl_tag_op, libdst_parse_tag_uint32, led_program_len)            \
-    ROW(T, CALL, "PORT", libdst_dev_asic_cb_port_tag_op)
+    ROW(T, APPEND, "PORT", libdst_dev_asic_cb_port_tag_op, port_info, read_port)
 DST_TABLE(dst_tag_asic_chipbcm_op, xml_tag_parser_asic_chipbcm_t, bcm_chip_info_t, CHIP_ELEMENTS)
 
 // A second CHIPBCM of an ASIC starts the ports again; the settings that it does not name stay.

@@ -70,11 +70,8 @@ int libdst_frumodel_tag_op(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *mo
 }
 
 int libdst_chsmodel_tag_op(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *model) {
-    auto entry = dst::make<frumodel_module_list_t>();
-    const int rc = entry ? read_model(__func__, doc, node, entry.get()) : dst::check(__func__, -1, dst::no_memory);
+    const int rc = dst::append_record(__func__, doc, node, model->chsmodel_info, read_model);
     if (rc < 0)
         dst::release_member(model->chsmodel_info);
-    else
-        dst::append(model->chsmodel_info, entry.release());
     return rc;
 }

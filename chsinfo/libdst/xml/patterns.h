@@ -1,5 +1,6 @@
-// The two ways in which devices are read, once each: lists of records (read_list) and single devices that a controller
-// drives (read_device, read_controller). All log under the name of the function that the caller gives.
+// The ways in which records are read, once each: lists of records (read_list), single devices that a controller drives
+// (read_device, read_controller) and records inside a record (append_record). All log under the name of the function
+// that the caller gives.
 #pragma once
 
 #include "../model/kinds.h"
@@ -12,10 +13,24 @@
 // A controller: "ctrl" value, its reader, its enumerator, the element walk that it uses.
 #define DST_HANDLER_CTRL(T, element, handler, family, type, per_tag)                                                   \
     DST_FUNCTION(T, handler) { return dst::read_controller<family>(__func__, type, per_tag, doc, node, to); }
+// A record inside a record, appended to the list `member` of the outer one: read(func, doc, node, record) fills it.
+#define DST_HANDLER_APPEND(T, element, handler, member, read)                                                          \
+    DST_FUNCTION(T, handler) { return dst::append_record(__func__, doc, node, to->member, read); }
 
 namespace dst {
 
 constexpr char no_memory[] = "could not allocate the memory!";
+
+// Makes an entry and appends it once fill(entry) filled it; a failure leaves the list as it was.
+template <list_head Head> int append_filled(const char *func, Head &list, auto fill) {
+    auto entry = make<entry_of<Head>>();
+    if (!entry)
+        return check(func, -1, no_memory);
+    const int rc = fill(entry.get());
+    if (rc >= 0)
+        append(list, entry.release());
+    return rc;
+}
 
 // Empties the list, makes an entry of each child element with this name and appends those that read_entry(node, entry)
 // fills. Any failure leaves the list empty.
@@ -27,14 +42,16 @@ int read_list(const char *func, const char *element, xmlNodePtr section, Head &l
     for (xmlNodePtr child = section->children; child && rc >= 0; child = child->next) {
         if (child->type != XML_ELEMENT_NODE || !name_is(child, element))
             continue;
-        auto entry = make<entry_of<Head>>();
-        rc = entry ? read_entry(child, entry.get()) : check(func, -1, no_memory);
-        if (rc >= 0)
-            append(list, entry.release());
+        rc = append_filled(func, list, [&](auto *entry) { return read_entry(child, entry); });
     }
     if (rc < 0)
         release_member(list);
     return rc;
+}
+
+// One record of a list that stays as it is: read(func, doc, node, entry) fills it. The list was initialised before.
+template <list_head Head> int append_record(const char *func, xmlDocPtr doc, xmlNodePtr node, Head &list, auto read) {
+    return append_filled(func, list, [&](auto *record) { return read(func, doc, node, record); });
 }
 
 // The words in which a family's messages differ.

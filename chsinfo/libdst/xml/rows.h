@@ -52,8 +52,9 @@ int walk(const char *func, const tag_entry<T> *table, xmlDocPtr doc, xmlNodePtr 
 
 #define DST_HANDLER(T, kind, ...) DST_HANDLER_##kind(T, __VA_ARGS__)
 #define DST_ENTRY(T, kind, element, handler, ...) {element, handler},
-#define DST_TABLE(table, entry_t, T, ROWS)                                                                             \
-    ROWS(DST_HANDLER, T) static const entry_t table[] = {ROWS(DST_ENTRY, T){nullptr, nullptr}};
+#define DST_TABLE(table, entry_t, T, ROWS) ROWS(DST_HANDLER, T) DST_ENTRIES(table, entry_t, T, ROWS)
+// A table alone: rows that several tables share make their functions once, by ROWS(DST_HANDLER, T).
+#define DST_ENTRIES(table, entry_t, T, ROWS) static const entry_t table[] = {ROWS(DST_ENTRY, T){nullptr, nullptr}};
 #define DST_FUNCTION(T, handler) static int handler([[maybe_unused]] xmlDocPtr doc, xmlNodePtr node, T *to)
 
 // The row kinds.

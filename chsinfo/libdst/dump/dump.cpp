@@ -41,17 +41,6 @@ static constexpr leaf<i2c_dev_info_t> i2cdev_leaves[] = {
     {"MUXADDR2", [](const auto &d) { return hex(d.muxaddr2); }},
 };
 
-// The FRU of a device; -1 where the link is missing.
-static value fru_id(const fru_info_t *fru) { return dec(fru ? fru->id : static_cast<uint32_t>(-1)); }
-
-static constexpr leaf<pic_info_t> pic_leaves[] = {
-    {"NAME", [](const auto &p) { return text(p.name); }},
-    {"PICI2CID", [](const auto &p) { return hex(p.pic_i2cid); }},
-    {"DRIVERID", [](const auto &p) { return dec(p.driver_id); }},
-    {"CAPABILITY", [](const auto &p) { return dec(p.capablility); }},
-    {"FRUID", [](const auto &p) { return fru_id(p.fru_info); }},
-};
-
 static value flag(bool set) { return text(set ? "true" : "false"); }
 
 static constexpr leaf<fru_info_t> fru_leaves[] = {
@@ -71,18 +60,6 @@ static constexpr leaf<fru_info_t> fru_leaves[] = {
     {"HYST_OFFSET", [](const auto &f) { return flag(f.hyst_offset); }},
     {"MAX_ALARM_REASONS", [](const auto &f) { return flag(f.max_alarm_reasons); }},
 };
-
-// A DEVICE element for each record of a kind.
-template <class K> static void print_devices(libdst_chs_info_t *model, int device, auto print_content) {
-    for (const auto &record : records<K>(model)) {
-        print_open(4, "DEVICE",
-                   {{"id", dec(record.id)},
-                    {"type", name(dst_dev_type, device)},
-                    {"ctrl", name(dst_ctrl_type, record.ctrl_type)}});
-        print_content(record);
-        print_close(4, "DEVICE");
-    }
-}
 
 static void print_i2c_device(const i2c_dev_info_t &device) {
     print_record(8, "I2CDEV", name(dst_i2c_type, device.type), i2cdev_leaves, device);
@@ -104,8 +81,7 @@ void display_dst_info(void) {
     dst::print_section<dst::i2c_devices>(model, DST_I2C_DEV_IDX, dst::print_i2c_device);
     dst::print_asics(model);
     dst::print_optics(model);
-    dst::print_devices<dst::pics>(model, DST_PIC_DEV_IDX,
-                                  [](const auto &pic) { dst::print_leaves(8, dst::pic_leaves, pic); });
+    dst::print_single_devices(model);
     dst::print_section<dst::frus>(model, DST_FRU_DEV_IDX, dst::print_fru);
     dst::print_resiliency(model);
     dst::print_close(0, "CHASSIS");

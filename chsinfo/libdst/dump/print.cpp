@@ -9,22 +9,27 @@ static void print_value(value shown) {
         std::printf(shown.format, shown.number);
 }
 
-void print_open(int indent, const char *element, std::initializer_list<attribute> attributes) {
+static void print_tag(int indent, const char *element, std::initializer_list<attribute> attributes) {
     std::printf("%*s<%s", indent, "", element);
     for (const attribute &attribute : attributes) {
         std::printf(" %s=\"", attribute.name);
         print_value(attribute.shown);
         std::putchar('"');
     }
-    std::puts(">");
+    std::putchar('>');
+}
+
+void print_open(int indent, const char *element, std::initializer_list<attribute> attributes) {
+    print_tag(indent, element, attributes);
+    std::putchar('\n');
 }
 
 void print_close(int indent, const char *element) { std::printf("%*s</%s>\n", indent, "", element); }
 
-void print_leaf(int indent, const char *element, value shown) {
+void print_leaf(int indent, const char *element, value shown, std::initializer_list<attribute> attributes) {
     if (!shown.format)
         return;
-    std::printf("%*s<%s>", indent, "", element);
+    print_tag(indent, element, attributes);
     print_value(shown);
     std::printf("</%s>\n", element);
 }

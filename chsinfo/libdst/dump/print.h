@@ -36,7 +36,7 @@ template <class R> struct leaf {
 
 void print_open(int indent, const char *element, std::initializer_list<attribute> attributes = {});
 void print_close(int indent, const char *element);
-void print_leaf(int indent, const char *element, value shown);
+void print_leaf(int indent, const char *element, value shown, std::initializer_list<attribute> attributes = {});
 
 template <class R, std::size_t N> void print_leaves(int indent, const leaf<R> (&rows)[N], const R &record) {
     for (const leaf<R> &row : rows)

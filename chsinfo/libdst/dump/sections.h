@@ -11,6 +11,7 @@ void print_fru_models(libdst_chs_info_t *model);
 void print_chassis_models(libdst_chs_info_t *model);
 void print_asics(libdst_chs_info_t *model);
 void print_optics(libdst_chs_info_t *model);
+void print_single_devices(libdst_chs_info_t *model); // each a DEVICE element of its own, from fans to PICs
 void print_resiliency(libdst_chs_info_t *model);
 
 // All of a range inside one element, which is left out when there are none.

@@ -3,6 +3,18 @@
 
 #define DEVICE_TYPES(ROW, T)                                                                                           \
     ROW(T, CALL, "i2c", libdst_dev_i2c_op)                                                                             \
+    ROW(T, CALL, "FAN", libdst_dev_fan_op)                                                                             \
+    ROW(T, CALL, "FPC", libdst_dev_fpc_op)                                                                             \
+    ROW(T, CALL, "SIB", libdst_dev_sib_op)                                                                             \
+    ROW(T, CALL, "FPM", libdst_dev_fpm_op)                                                                             \
+    ROW(T, CALL, "FTC", libdst_dev_ftc_op)                                                                             \
+    ROW(T, CALL, "CB", libdst_dev_cb_op)                                                                               \
+    ROW(T, CALL, "PEM", libdst_dev_psu_op)                                                                             \
+    ROW(T, CALL, "TMPSNR", libdst_dev_tmpsnr_op)                                                                       \
+    ROW(T, CALL, "VOLTSNR", libdst_dev_voltsnr_op)                                                                     \
+    ROW(T, CALL, "LED", libdst_dev_ledlcd_op)                                                                          \
+    ROW(T, CALL, "LCD", libdst_dev_lcd_op)                                                                             \
+    ROW(T, CALL, "BTN", libdst_dev_button_op)                                                                          \
     ROW(T, CALL, "PIC", libdst_dev_pic_op)                                                                             \
     ROW(T, CALL, "FRU", libdst_dev_fru_op)                                                                             \
     ROW(T, CALL, "optics", libdst_dev_optics_op)                                                                       \

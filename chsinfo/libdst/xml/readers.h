@@ -19,9 +19,21 @@ int libdst_chsmodel_tag_op(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *mo
 // A DEVICE element, by its "type" attribute.
 int libdst_device_tag_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 
-// The device readers, one a file.
+// The device readers.
 int libdst_dev_i2c_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
-int libdst_dev_fru_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_fan_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_fpc_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_sib_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_fpm_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_ftc_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_cb_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_psu_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_tmpsnr_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_voltsnr_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_ledlcd_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_lcd_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_button_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 int libdst_dev_pic_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
+int libdst_dev_fru_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 int libdst_dev_optics_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);
 int libdst_dev_asic_op(xmlDocPtr doc, xmlNodePtr device, libdst_chs_info_t *model);

@@ -388,7 +388,8 @@ extern DST_API const char *const dst_dev_type[DST_MAX_DEVICE + 1];
 /** The chassis-wide numbers. The first member of the model. Elements are children of the root element CHASSIS, keys
  * those of the root group "CHASSIS". Owned by the model; valid until libchs_release(). */
 typedef struct _chassis_info_s {
-    chassis_family_t family;    /**< Chassis family. Element FAMILY (name, 0 when unknown); key "FAMILY". */
+    /** Chassis family. Element FAMILY (name, 0 when unknown); key "FAMILY", refused when unknown. */
+    chassis_family_t family;
     uint32_t major;             /**< Version of the description. Element VERSION (decimal); key "VERSION". */
     uint32_t minor;             /**< Minor version. No source fills it. */
     uint32_t ndram_slots;       /**< DRAM slots. Element NDRAMSLOTS (decimal); key "NDRAMSLOTS". */
@@ -444,7 +445,7 @@ typedef struct _i2c_dev_info_s {
     char location[128]; /**< Location. Element LOCATION; key "LOCATION". */
     uint32_t id;        /**< What FRUs refer to the device by. Attribute "id" (decimal); key "id". */
     uint32_t driver_id; /**< Driver. Element DRIVERID (decimal); key "DRIVERID". */
-    i2cdev_type_t type; /**< Kind. Attribute "type" (name); key "Type". */
+    i2cdev_type_t type; /**< Kind. Attribute "type" (name); key "Type", -1 also when missing. */
     uint8_t i2caddr;    /**< Address on the bus. Element I2CADDR (base prefix); key "I2CADDR". */
     uint8_t segment;    /**< Bus segment. Element SEGMENT (base prefix); key "SEGMENT". */
     uint8_t reg_offset; /**< Register offset. Element REGOFFSET (base prefix); key "REGOFFSET". */
@@ -604,7 +605,8 @@ typedef struct _fru_info_s {
     /** I2C device of its identification EEPROM; null for a negative `i2cdev_id`, and in a model without I2C devices.
      * Set by linking. Reference, not owned. */
     i2c_dev_info_t *i2cdev;
-    /** Extension I2C device; null when `i2cdev_id_ext` names none. Set by linking. Reference, not owned. */
+    /** Extension I2C device; null when `i2cdev_id_ext` names none, and wherever `i2cdev` is null. Set by linking.
+     * Reference, not owned. */
     i2c_dev_info_t *i2cdev_ext;
     char name[128];    /**< Name. Element NAME; key "NAME". */
     uint32_t id;       /**< What devices and other FRUs refer to it by. Attribute "id" (decimal); key "id". */
@@ -1272,7 +1274,8 @@ typedef struct _led_info_s {
     uint32_t id;           /**< Id. Attribute "id" (decimal); key "id". */
     uint32_t driver_id;    /**< Driver. Element DRIVERID (decimal); key "DRIVERID". */
     ctrl_type_t ctrl_type; /**< Controller. Attribute "ctrl"; key "ctrl". */
-    led_type_t led_type;   /**< What it shows. Element LEDTYPE (name, 0 when unknown); key "LEDTYPE". */
+    /** What it shows. Element LEDTYPE (name, 0 when unknown); key "LEDTYPE", -1 also when missing. */
+    led_type_t led_type;
 } led_info_t;
 
 /** The link of ledlcd_module_list_t. */
@@ -1321,12 +1324,13 @@ typedef struct _lcd_info_list_s {
 
 /** A button: "BTN". Owned by the model; valid until libchs_release(). */
 typedef struct _btn_info_s {
-    fru_info_t *fru_info;   /**< FRU that it sits on. Set by linking. Reference, not owned. */
-    char name[128];         /**< Name. Element NAME; key "NAME". */
-    uint32_t id;            /**< Id. Attribute "id" (decimal); key "id". */
-    uint32_t driver_id;     /**< Driver. Element DRIVERID (decimal); key "DRIVERID". */
-    ctrl_type_t ctrl_type;  /**< CTRL_TYPE_QVLBTN. Attribute "ctrl"; key "ctrl". */
-    btn_type_t button_type; /**< What it does. Element BTNTYPE (name, 0 when unknown); key "BTNTYPE". */
+    fru_info_t *fru_info;  /**< FRU that it sits on. Set by linking. Reference, not owned. */
+    char name[128];        /**< Name. Element NAME; key "NAME". */
+    uint32_t id;           /**< Id. Attribute "id" (decimal); key "id". */
+    uint32_t driver_id;    /**< Driver. Element DRIVERID (decimal); key "DRIVERID". */
+    ctrl_type_t ctrl_type; /**< CTRL_TYPE_QVLBTN. Attribute "ctrl"; key "ctrl". */
+    /** What it does. Element BTNTYPE (name, 0 when unknown); key "BTNTYPE", -1 also when missing. */
+    btn_type_t button_type;
 } btn_info_t;
 
 /** The link of button_module_list_t. */
@@ -1625,7 +1629,7 @@ typedef struct _resil_fru_module_list_s {
 
 /** FRU model that resiliency data is about. Embedded in resil_fru_list_t. */
 typedef struct _resil_fru_info_s {
-    fru_type_t type;   /**< Kind of FRU. Key "Type". */
+    fru_type_t type;   /**< Kind of FRU. Key "Type", -1 also when missing. */
     uint32_t id;       /**< Assembly id. Key "ASSEMBLYID". */
     uint32_t nmodules; /**< Number of modules as stated, not counted. Key "NMODULES". */
 } resil_fru_info_t;

@@ -21,14 +21,6 @@ template <class K> bool is_empty(const char *func, const char *message) {
 constexpr auto every = [](const auto &) { return true; };
 constexpr auto same_id = [](const auto &a, const auto &b) { return a.id == b.id; };
 
-// The first record that passes, or null.
-auto *first_of(auto range, auto passes) {
-    for (auto &record : range)
-        if (passes(record))
-            return &record;
-    return static_cast<decltype(&*range.begin())>(nullptr);
-}
-
 // The record after `previous` among those that pass; the first of them for null. `previous` stands at the first record
 // with its key; where keys repeat, at itself if it is one of the records, so that a walk always ends. Null at the end
 // and for a key that no record has.

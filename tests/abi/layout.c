@@ -1,9 +1,9 @@
-/* The binary interface of libdst.h: sizes and offsets in 32 bit (i386) and 64 bit (x86-64), enumerator values and the
- * lengths of the name tables. A row that fails to compile is a change of the interface: the soname must change with it.
- * Compiles as C11 and as C++; a row is (what, 32 bit, 64 bit) or (what, value). WIDTH rows are for members that
- * padding follows, whose width no offset shows. */
+/* The binary interface of libdst.h and of the operations table: sizes and offsets in 32 bit (i386) and 64 bit (x86-64),
+ * enumerator values and the lengths of the name tables. A row that fails to compile is a change of the interface: the
+ * soname must change with it. Compiles as C11 and as C++; a row is (what, 32 bit, 64 bit) or (what, value). WIDTH rows
+ * are for members that padding follows, whose width no offset shows. */
 #include <assert.h>
-#include <chsinfo/libdst.h>
+#include <chsinfo/libdst_priv.h>
 #include <stddef.h>
 
 #if UINTPTR_MAX == 0xffffffffu
@@ -27,6 +27,7 @@
     static_assert(sizeof(((type *)NULL)->member) == BITS(8, 16), #type "::" #member " is not two pointers");           \
     OFFSET(type, member.tqe_next, offsetof(type, member), offsetof(type, member));                                     \
     OFFSET(type, member.tqe_prev, offsetof(type, member) + 4, offsetof(type, member) + 8)
+#define SLOT_AT(index, slot) OFFSET(chassis_ops_t, slot, 4 * (index), 8 * (index))
 #define ENUMERATOR(name, value) static_assert(name == value, #name " is not " #value)
 #define COUNT(table, rows)                                                                                             \
     static_assert(sizeof(table) == (rows) * sizeof(char *), #table " does not have " #rows " rows")
@@ -1077,3 +1078,69 @@ COUNT(dst_btn_type, 4);
 COUNT(dst_power_type, 4);
 COUNT(dst_chassis_family_type, 21);
 COUNT(dst_tmpsnr_thres_alarm_type, 5);
+
+SIZE(chassis_ops_t, 256, 512);
+SLOT_AT(0, libc_init);
+SLOT_AT(1, libc_release);
+SLOT_AT(2, libc_chassis_info_get);
+SLOT_AT(3, libc_i2c_dev_info_get_next);
+SLOT_AT(4, libc_i2c_dev_info_get_next_by_type);
+SLOT_AT(5, libc_i2c_dev_info_by_id);
+SLOT_AT(6, libc_fan_info_get_next);
+SLOT_AT(7, libc_pem_info_get_next);
+SLOT_AT(8, libc_fpc_info_get_next);
+SLOT_AT(9, libc_sib_info_get_next);
+SLOT_AT(10, libc_fpm_info_get_next);
+SLOT_AT(11, libc_ftc_info_get_next);
+SLOT_AT(12, libc_cb_info_get_next);
+SLOT_AT(13, libc_tib_info_get_next);
+SLOT_AT(14, libc_tmpsnr_info_get_next);
+SLOT_AT(15, libc_tmpsnr_info_get_by_id);
+SLOT_AT(16, libc_voltsnr_info_get_next);
+SLOT_AT(17, libc_voltsnr_info_get_by_id);
+SLOT_AT(18, libc_led_info_get_next);
+SLOT_AT(19, libc_led_info_get_by_id);
+SLOT_AT(20, libc_lcd_info_get_next);
+SLOT_AT(21, libc_lcd_info_get_by_id);
+SLOT_AT(22, libc_btn_info_get_next);
+SLOT_AT(23, libc_btn_info_get_by_id);
+SLOT_AT(24, libc_fru_info_get_next);
+SLOT_AT(25, libc_fru_info_get_next_by_fan);
+SLOT_AT(26, libc_fru_info_get_next_by_pem);
+SLOT_AT(27, libc_fru_info_get_next_by_fpc);
+SLOT_AT(28, libc_fru_info_get_next_by_sib);
+SLOT_AT(29, libc_fru_info_get_next_by_fpm);
+SLOT_AT(30, libc_fru_info_get_next_by_ftc);
+SLOT_AT(31, libc_fru_info_get_next_by_cb);
+SLOT_AT(32, libc_fru_info_get_next_by_tib);
+SLOT_AT(33, libc_fru_fan_info_get_next);
+SLOT_AT(34, libc_fru_pem_info_get_next);
+SLOT_AT(35, libc_fru_fpc_info_get_next);
+SLOT_AT(36, libc_fru_sib_info_get_next);
+SLOT_AT(37, libc_fru_fpm_info_get_next);
+SLOT_AT(38, libc_fru_ftc_info_get_next);
+SLOT_AT(39, libc_fru_cb_info_get_next);
+SLOT_AT(40, libc_fru_tib_info_get_next);
+SLOT_AT(41, libc_fru_info_get_by_id);
+SLOT_AT(42, libc_pic_info_get_next);
+SLOT_AT(43, libc_fru_info_get_next_by_pic);
+SLOT_AT(44, libc_fru_pic_info_get_next);
+SLOT_AT(45, libc_fru_info_get_next_parent);
+SLOT_AT(46, libc_fru_info_get_next_child);
+SLOT_AT(47, libc_fru_info_get_id_by_type_slotno);
+SLOT_AT(48, libc_epm_data_get_next);
+SLOT_AT(49, libc_epm_data_get_by_type);
+SLOT_AT(50, libc_chassis_epm_data_init);
+SLOT_AT(51, libc_chassis_epm_data_release);
+SLOT_AT(52, libc_asic_info_get_next);
+SLOT_AT(53, libc_bcm_port_info_get_next);
+SLOT_AT(54, libc_bcm_port_info_get_by_port_no);
+SLOT_AT(55, libc_bcm_port_info_get_next_by_picid);
+SLOT_AT(56, libc_optics_info_get_next);
+SLOT_AT(57, libc_optics_info_get_next_by_port_no);
+SLOT_AT(58, libc_optics_info_get_next_by_slotno);
+SLOT_AT(59, libc_fru_model_info_get_next);
+SLOT_AT(60, libc_fru_model_info_get_next_by_type);
+SLOT_AT(61, libc_chassis_model_info_get_next);
+SLOT_AT(62, libc_resil_fru_get);
+SLOT_AT(63, libc_resil_module_list_get_next);

@@ -54,6 +54,7 @@ grep -q 'Unable to parse schemas context' "$scratch/err" || fail "the schema bes
 dstctl 0 show --schema "$prefix/share/libdst/chassis_dst_schema.xsd" "$examples/small/chassis_dst.xml"
 dstctl 2 show "$scratch/absent.xml"
 dstctl 2 show --schema "$scratch/absent.xsd" "$scratch/wrong.xml"
+dstctl 2 show "$scratch"
 for words in "" "show" "show --schema" "show one two" "show --other one" "sing"; do
     # shellcheck disable=SC2086 # words
     dstctl 2 $words

@@ -1,8 +1,10 @@
 // dstctl show: the dump of a description on standard output; log lines and the verdict on standard error.
+#include <cerrno>
 #include <climits>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "chsinfo/libdst/model/log.h"
@@ -10,11 +12,11 @@
 #include "dstctl.h"
 
 static void log_to_stderr(int priority, const char *format, va_list arguments) {
-    char line[1024];
-    std::vsnprintf(line, sizeof line, format, arguments);
-    const bool ended = line[0] && line[std::strlen(line) - 1] == '\n';
-    const char *level = priority == LOG_ERR ? "error" : priority == LOG_DEBUG ? "debug" : "info";
-    std::fprintf(stderr, "%s: %s%s", level, line, ended ? "" : "\n");
+    std::fprintf(stderr, "%s: ", priority == LOG_ERR ? "error" : priority == LOG_DEBUG ? "debug" : "info");
+    std::vfprintf(stderr, format, arguments);
+    const std::size_t length = std::strlen(format);
+    if (length == 0 || format[length - 1] != '\n')
+        std::fputc('\n', stderr);
 }
 
 // The path of a file in the folder of another; false when it does not fit.
@@ -31,14 +33,16 @@ static bool find_schema(const char *document, char (&path)[PATH_MAX]) {
     char program[PATH_MAX] = "";
     if (readlink("/proc/self/exe", program, sizeof program - 1) < 0)
         return false;
-    return beside(program, "../share/libdst/chassis_dst_schema.xsd", path);
+    return beside(program, DST_BIN_TO_DATA "/libdst/chassis_dst_schema.xsd", path);
 }
 
+// Whether there is a file to read; says so where there is none.
 static bool readable(const char *path) {
-    if (access(path, R_OK) == 0)
+    errno = 0;
+    struct stat found;
+    if (access(path, R_OK) == 0 && stat(path, &found) == 0 && !S_ISDIR(found.st_mode))
         return true;
-    std::fprintf(stderr, "dstctl: cannot open ");
-    std::perror(path);
+    std::fprintf(stderr, "dstctl: cannot read %s: %s\n", path, std::strerror(errno ? errno : EISDIR));
     return false;
 }
 
@@ -58,7 +62,11 @@ int verb_show(int count, char **words) {
         return usage();
     if (!schema && find_schema(document, found))
         schema = found;
-    if (!readable(document) || !readable(schema ? schema : "chassis_dst_schema.xsd"))
+    if (!schema) {
+        std::fputs("dstctl: no schema found, name one with --schema\n", stderr);
+        return exit_refused;
+    }
+    if (!readable(document) || !readable(schema))
         return exit_refused;
 
     dst::log_sink = log_to_stderr;

@@ -71,4 +71,12 @@ template <class K> struct record_range {
 };
 template <class K> record_range<K> records(libdst_chs_info_t *model) { return {K::list(model).tqh_first}; }
 
+// The first record that passes, or null.
+auto *first_of(auto range, auto passes) {
+    for (auto &record : range)
+        if (passes(record))
+            return &record;
+    return static_cast<decltype(&*range.begin())>(nullptr);
+}
+
 } // namespace dst

@@ -14,10 +14,7 @@ constexpr uint32_t no_parent = 0xFFFFFFFF;
 constexpr int32_t no_i2c_device = -1;
 
 static fru_info_t *fru_by_id(libdst_chs_info_t *model, uint32_t id) {
-    for (fru_info_t &fru : records<frus>(model))
-        if (fru.id == id)
-            return &fru;
-    return nullptr;
+    return first_of(records<frus>(model), [id](const auto &fru) { return fru.id == id; });
 }
 
 // `word` names the family in the messages, which end with `line_end`.

@@ -1,6 +1,7 @@
 // LEDs, LCDs and buttons, single devices: DEVICE types "LED", "LCD" and "BTN".
 // A new element: its member in libdst.h, its row here, in the dump and in the schema, a case. A new controller: its
-// enumerator and name row, its CTRL row here, a case. A new kind of one of them: its enumerator and name row.
+// enumerator and name row, its name in the schema, its CTRL row here, a case. A new kind of one of them: its enumerator
+// and name row.
 #include "patterns.h"
 #include "readers.h"
 

@@ -1,7 +1,10 @@
 #include "load.h"
 
+#include <utility>
+
 #include <libxml/parser.h>
 #include <libxml/xinclude.h>
+#include <libxml/xmlerror.h>
 #include <libxml/xmlschemas.h>
 #include <libxml/xmlschemastypes.h>
 
@@ -44,12 +47,25 @@ template <class Callback> static Callback print_to_stream() {
     return reinterpret_cast<Callback>(reinterpret_cast<void (*)()>(std::fprintf));
 }
 
-static void apply_xinclude(const char *func, xmlDocPtr doc) {
-    if (xmlXIncludeProcessFlags(doc, XML_PARSE_NONET) < 1)
-        log_at(LOG_DEBUG, func, "Could not apply the XInclude process");
+// libxml2 hands out what it has of a document when memory runs out while it reads it: that is no document.
+static bool out_of_memory() {
+    const xmlError *error = xmlGetLastError();
+    return error && error->code == XML_ERR_NO_MEMORY;
 }
 
-static const xml_source fixed_source() { return {xml_path, schema_path, stdout, stdout}; }
+// The document with everything that XInclude brings in, which never comes from the network; null when it cannot be
+// read.
+static document read_document(const char *func, const char *path, int options) {
+    xmlResetLastError();
+    document doc(xmlReadFile(path, nullptr, options));
+    if (!doc || out_of_memory())
+        return nullptr;
+    if (xmlXIncludeProcessFlags(doc.get(), XML_PARSE_NONET) < 1)
+        log_at(LOG_DEBUG, func, "Could not apply the XInclude process");
+    return out_of_memory() ? nullptr : std::move(doc);
+}
+
+xml_source fixed_source() { return {xml_path, schema_path, stdout, stdout}; }
 
 } // namespace dst
 
@@ -79,12 +95,11 @@ int libdst_xml_validation(const dst::xml_source &source) {
     if (source.schema_dump)
         xmlSchemaDump(source.schema_dump, schema.get());
 
-    doc.reset(xmlReadFile(source.document, nullptr, 0));
+    doc = dst::read_document(__func__, source.document, 0);
     if (!doc) {
         dst::log_err(__func__, "Failed in parsing Device Specification XML file %s!\n", source.document);
         return -1;
     }
-    dst::apply_xinclude(__func__, doc.get());
     validator.reset(xmlSchemaNewValidCtxt(schema.get()));
     if (!validator) {
         dst::log_err(__func__, "Failed in creating a new schema for parsing %s\n", source.document);
@@ -101,8 +116,6 @@ int libdst_xml_validation(const dst::xml_source &source) {
     return verdict == 0 ? 0 : -1;
 }
 
-int libdst_xml_validation(void) { return libdst_xml_validation(dst::fixed_source()); }
-
 int libdst_root_handler(xmlDocPtr doc, libdst_chs_info_t *model) {
     xmlNodePtr root = xmlDocGetRootElement(doc);
     if (!root)
@@ -111,13 +124,12 @@ int libdst_root_handler(xmlDocPtr doc, libdst_chs_info_t *model) {
     return dst::check(__func__, rc < 0 ? -1 : rc, "Failed to find the root in Device Specification!");
 }
 
-static int read_document(const char *func, const char *path, libdst_chs_info_t *model) {
+static int read_model(const char *func, const char *path, libdst_chs_info_t *model) {
     libxml_init();
     // The same tree as with the plain parse, leaner, and whatever the host did to the parser's defaults.
-    const dst::document doc(xmlReadFile(path, nullptr, XML_PARSE_COMPACT));
+    const dst::document doc = dst::read_document(func, path, XML_PARSE_COMPACT);
     if (!doc)
         return dst::check(func, -1, "Unable to parse XML file");
-    dst::apply_xinclude(func, doc.get());
     const int rc = libdst_root_handler(doc.get(), model);
     if (rc < 0)
         return dst::check(func, rc, "Unable to convert the DST into chassis info");
@@ -129,14 +141,12 @@ int libdst_xml_parse(const dst::xml_source &source) {
     libdst_info_init(model);
     int rc = dst::check(__func__, libdst_xml_validation(source), "Failed to validate Device Specification XML");
     if (rc >= 0)
-        rc = read_document(__func__, source.document, model);
+        rc = read_model(__func__, source.document, model);
     if (rc < 0)
         libdst_release();
     libxml_shutdown();
     return rc;
 }
-
-int libdst_xml_parse(void) { return libdst_xml_parse(dst::fixed_source()); }
 
 int libdst_init(const dst::xml_source &source) {
     return dst::check(__func__, libdst_xml_parse(source),

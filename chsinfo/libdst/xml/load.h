@@ -1,5 +1,4 @@
-// Loading the XML form: validation, then reading. Each entry point without arguments has one beneath it, of the same
-// name, that takes the files.
+// Loading the XML form: validation, then reading, of the fixed files or of those that the caller names.
 #pragma once
 
 #include <cstdio>
@@ -17,16 +16,17 @@ struct xml_source {
     FILE *verdict;
 };
 
+// The fixed paths; standard output.
+xml_source fixed_source();
+
 } // namespace dst
 
 // Reads the document into `chs_info`, linked; on failure `chs_info` is all zero.
 int libdst_init(const dst::xml_source &source);
-int libdst_xml_parse(const dst::xml_source &source);
-int libdst_xml_parse(void);
+int libdst_xml_parse(const dst::xml_source &source = dst::fixed_source());
 
 // Checks the document against the schema and prints the verdict. 0 for a valid document, else -1.
-int libdst_xml_validation(const dst::xml_source &source);
-int libdst_xml_validation(void);
+int libdst_xml_validation(const dst::xml_source &source = dst::fixed_source());
 
 // Checks the root element and reads it into the model.
 int libdst_root_handler(xmlDocPtr doc, libdst_chs_info_t *model);

@@ -1,6 +1,6 @@
 // PICs, single devices: DEVICE type "PIC" with the controller "PIC".
 // A new element: its member in libdst.h, its row here, in the dump and in the schema, a case. A new controller: its
-// enumerator and name row, its CTRL row here, a case.
+// enumerator and name row, its name in the schema, its CTRL row here, a case.
 #include "patterns.h"
 #include "readers.h"
 

@@ -1,7 +1,7 @@
 // Temperature sensors, single devices: DEVICE type "TMPSNR" with one of ten chips, THRESHOLD records with LIMIT and
 // ALARM records inside.
 // A new element: its member in libdst.h, its row here, in the dump and in the schema, a case. A new chip: its
-// enumerator and name row, its CTRL row here, a case.
+// enumerator and name row, its name in the schema, its CTRL row here, a case.
 #include "patterns.h"
 #include "readers.h"
 

@@ -1,0 +1,79 @@
+// Calls of libxml2 that fail: each gives its line, and the load ends cleanly.
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+#include <libxml/xmlschemas.h>
+
+#include "../harness/load.h"
+#include "chsinfo/libdst.h"
+
+namespace {
+
+enum class call { none, new_parser, new_validator, validate, first_read, second_read };
+call failing = call::none;
+int reads;
+
+} // namespace
+
+extern "C" {
+xmlSchemaParserCtxtPtr __real_xmlSchemaNewParserCtxt(const char *path);
+xmlSchemaValidCtxtPtr __real_xmlSchemaNewValidCtxt(xmlSchemaPtr schema);
+int __real_xmlSchemaValidateDoc(xmlSchemaValidCtxtPtr validator, xmlDocPtr doc);
+xmlDocPtr __real_xmlReadFile(const char *path, const char *encoding, int options);
+
+xmlSchemaParserCtxtPtr __wrap_xmlSchemaNewParserCtxt(const char *path) {
+    return failing == call::new_parser ? nullptr : __real_xmlSchemaNewParserCtxt(path);
+}
+xmlSchemaValidCtxtPtr __wrap_xmlSchemaNewValidCtxt(xmlSchemaPtr schema) {
+    return failing == call::new_validator ? nullptr : __real_xmlSchemaNewValidCtxt(schema);
+}
+int __wrap_xmlSchemaValidateDoc(xmlSchemaValidCtxtPtr validator, xmlDocPtr doc) {
+    return failing == call::validate ? -1 : __real_xmlSchemaValidateDoc(validator, doc);
+}
+xmlDocPtr __wrap_xmlReadFile(const char *path, const char *encoding, int options) {
+    ++reads;
+    const bool fails = (failing == call::first_read && reads == 1) || (failing == call::second_read && reads == 2);
+    return fails ? nullptr : __real_xmlReadFile(path, encoding, options);
+}
+}
+
+namespace {
+
+TEST(Libxml2, FailsCallByCall) {
+    const std::string not_valid = "libdst_xml_parse: Failed to validate Device Specification XML";
+    const struct {
+        call fails;
+        std::vector<std::string> log;
+        const char *out_ends;
+    } cases[] = {
+        {call::new_parser, {"libdst_xml_validation: Unable to parse schemas file", not_valid}, ""},
+        {call::first_read,
+         {"libdst_xml_validation: Failed in parsing Device Specification XML file /var/platform/chassis_dst.xml!\\n",
+          not_valid},
+         ""},
+        {call::new_validator,
+         {"libdst_xml_validation: Failed in creating a new schema for parsing /var/platform/chassis_dst.xml\\n",
+          not_valid},
+         ""},
+        {call::validate, {not_valid}, "/var/platform/chassis_dst.xml validation generated an internal error!\n"},
+        {call::second_read, {"libdst_xml_parse: Unable to parse XML file"}, "validates OK!\n"},
+    };
+    for (const auto &one : cases) {
+        SCOPED_TRACE(static_cast<int>(one.fails));
+        failing = one.fails;
+        reads = 0;
+        const load_result result = load("<VERSION>1</VERSION>");
+        failing = call::none;
+        auto expected = one.log;
+        expected.insert(expected.end(), {"libdst_init: Failed to parse Device Specification XML to libchassis info!",
+                                         "Could not parse configuration file!\\n"});
+        EXPECT_EQ(result.status, -1);
+        EXPECT_EQ(texts_of(result.log, LOG_ERR), expected);
+        EXPECT_TRUE(result.out.ends_with(one.out_ends)) << result.out;
+        EXPECT_TRUE(model_is_zero());
+        libchs_release();
+    }
+    EXPECT_EQ(load("<VERSION>1</VERSION>").status, 0);
+    libchs_release();
+}
+
+} // namespace

@@ -34,9 +34,9 @@ std::ostream &operator<<(std::ostream &out, const load_case &one) {
     return out << one.file << ".cases:" << one.line << ": " << one.name;
 }
 
-std::vector<load_case> all_cases() {
+std::vector<load_case> all_cases(const std::string &folder) {
     std::vector<std::filesystem::path> paths;
-    for (const auto &entry : std::filesystem::directory_iterator(DST_TEST_DATA))
+    for (const auto &entry : std::filesystem::directory_iterator(folder))
         if (entry.path().extension() == ".cases")
             paths.push_back(entry.path());
     std::sort(paths.begin(), paths.end());

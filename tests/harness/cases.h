@@ -26,7 +26,8 @@ struct load_case {
 
 std::ostream &operator<<(std::ostream &out, const load_case &one); // where it stands: file and line
 
-std::vector<load_case> all_cases();
+// The cases of all .cases files of a folder; without one, of tests/cases/.
+std::vector<load_case> all_cases(const std::string &folder = DST_TEST_DATA);
 
 // The lines that follow those of a "fails" heading.
 std::vector<std::string> failure_tail(const std::string &heading);

@@ -1,5 +1,6 @@
 // Loading, releasing and what they say, through libchs_init() on the real paths.
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -31,8 +32,8 @@ class Load : public Test {
   protected:
     void TearDown() override {
         libchs_release();
-        for (const char *name : {"chassis_dst.xml", "chassis_dst_schema.xsd", "pics.xml"})
-            write_platform_file(name, "");
+        for (const auto &file : std::filesystem::directory_iterator("/var/platform"))
+            std::filesystem::remove(file);
     }
 };
 
@@ -235,16 +236,27 @@ TEST_F(Load, TakesWhatXIncludeBringsIn) {
     EXPECT_EQ(chs_info.pic_info.tqh_first->pic_minfo->fru_info, &chs_info.fru_info.tqh_first->fru_minfo);
 }
 
-TEST_F(Load, TheShippedExampleIsValidAndLinks) {
-    for (const char *name : {"chassis_dst.xml", "i2c.xml"})
-        write_platform_file(name, read_file(std::string(DST_SHARE "/examples/small/") + name));
-    write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
-    const load_result result = load();
-    EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(texts_of(result.log, LOG_ERR), lines{});
-    for (const fru_module_list_t *fru = chs_info.fru_info.tqh_first; fru; fru = fru->fru_next.tqe_next)
-        EXPECT_EQ(fru->fru_minfo.parent == nullptr, fru->fru_minfo.fru_type == FRU_TYPE_CHASSIS) << fru->fru_minfo.name;
-    write_platform_file("i2c.xml", "");
+// Each shipped example, against the shipped schema: what tests/golden/ holds is what a reader of the document expects.
+TEST_F(Load, TheShippedExamplesLoadAsTheyRead) {
+    for (const auto &example : std::filesystem::directory_iterator(DST_SHARE "/examples")) {
+        SCOPED_TRACE(example.path());
+        for (const auto &file : std::filesystem::directory_iterator(example))
+            write_platform_file(file.path().filename(), read_file(file.path()));
+        write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
+        const load_result result = load();
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(texts_of(result.log, LOG_ERR), lines{});
+        const auto dump = result.dump();
+        const auto golden = lines_of(read_file(DST_GOLDEN "/" + example.path().filename().string() + ".dump"));
+        const auto [differs, expected] = std::mismatch(dump.begin(), dump.end(), golden.begin(), golden.end());
+        EXPECT_TRUE(differs == dump.end() && expected == golden.end())
+            << "line " << differs - dump.begin() + 1 << ":\n"
+            << (differs == dump.end() ? "(end)" : *differs) << "\ninstead of\n"
+            << (expected == golden.end() ? "(end)" : *expected);
+        for (const auto *fru = chs_info.fru_info.tqh_first; fru; fru = fru->fru_next.tqe_next)
+            EXPECT_EQ(fru->fru_minfo.parent == nullptr, fru->fru_minfo.fru_type == FRU_TYPE_CHASSIS)
+                << fru->fru_minfo.name;
+    }
 }
 
 // Members that the dump does not show.
@@ -278,6 +290,11 @@ TEST_F(Load, FillsTheMembersThatAreNotPrinted) {
     EXPECT_EQ(fru->fru_minfo.virtual_fru_stats_file_name, long_name.substr(0, 127));
     EXPECT_EQ(fru->fru_minfo.hyst_offset, 7U);
     EXPECT_EQ(fru->fru_minfo.max_alarm_reasons, 9U);
+}
+
+TEST_F(Load, SaysThatFrusStayUnlinkedWithoutI2cDevices) {
+    const load_result result = load("<DEVICE type=\"FRU\"><FRUDEV id=\"0\" type=\"CB\"/></DEVICE>");
+    EXPECT_EQ(texts_of(result.log, LOG_INFO).back(), "libdst_dev_trans_fru: i2c dev info list is empty!");
 }
 
 const char two_of_each[] = R"(
@@ -348,7 +365,7 @@ TEST_F(Load, AnEmptySlotAnswersForItsOperation) {
     chassis_priv_ops = whole;
 }
 
-// A reader that reports a positive status has failed all the same.
+// Only a negative status of the slot ends libchs_init() before the EPM data is asked for.
 TEST_F(Load, APositiveStatusOfTheInitialiserGoesOn) {
     ASSERT_EQ(load(two_of_each).status, 0);
     const chassis_ops_t whole = chassis_priv_ops;

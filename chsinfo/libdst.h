@@ -1971,7 +1971,11 @@ DST_API void display_dst_info(void);
  *
  * Returns 0; or -1, with the outputs untouched, for a text that is refused, when the tool could not be started,
  * printed no line, or the line does not begin with bus:device.function in hexadecimal (an address with a PCI domain
- * before the bus does not). The line read and each failure to get one are logged at LOG_ERR. */
+ * before the bus does not). Logged at LOG_ERR, without a function's name:
+ *   - the line read, with its line feed: "lspci|grep %s:  = %s", for "%s" the text and the line;
+ *   - the tool could not be started: "Failed to get pci device list(lspci)!";
+ *   - no line, or not an address: "PCI device device with id: %s not found!";
+ *   - a text that is refused: the same, with "(invalid)" in place of the text. */
 DST_API int get_pcie_bus_device_info(const void *dev_id_str, uint8_t *bus, uint8_t *dev, uint8_t *func);
 
 #ifdef __cplusplus

@@ -4,15 +4,21 @@
 set -euo pipefail
 source_dir=$1
 shift
-warnings=(-Wall -Wextra -Wpedantic -Werror)
+flags=("$@" -Wall -Wextra -Wpedantic -Werror -I"$source_dir")
+
+# compiles COMPILER LANGUAGE STANDARD HEADER
+compiles() { "$1" "${flags[@]}" -std="$3" -fsyntax-only -include "chsinfo/$4" -x "$2" - </dev/null; }
+
 for header in libdst.h libdst_priv.h; do
     for compiler in gcc clang; do
-        "$compiler" "$@" -std=c11 "${warnings[@]}" -fsyntax-only -I"$source_dir" -include "chsinfo/$header" -x c - </dev/null
+        compiles $compiler c c11 $header
     done
     for standard in 11 14 17 20; do
         for compiler in g++ clang++; do
-            "$compiler" "$@" -std=c++$standard "${warnings[@]}" -fsyntax-only -I"$source_dir" -include "chsinfo/$header" \
-                -x c++ - </dev/null
+            compiles $compiler c++ c++$standard $header
         done
     done
+done
+for compiler in g++ clang++; do
+    compiles $compiler c++ c++20 libdst.hpp
 done

@@ -16,8 +16,8 @@ fail() {
 }
 
 cmake --install "$build_dir" --prefix "$prefix" >/dev/null
-for file in lib/libdst.so.1 lib/libdst.so lib/pkgconfig/libdst.pc include/chsinfo/libdst.h include/chsinfo/libdst_priv.h \
-    include/chsinfo/chassis_ops.def bin/dstctl share/libdst/chassis_dst_schema.xsd; do
+for file in lib/libdst.so.1 lib/libdst.so lib/pkgconfig/libdst.pc include/chsinfo/libdst.h include/chsinfo/libdst.hpp \
+    include/chsinfo/libdst_priv.h include/chsinfo/chassis_ops.def bin/dstctl share/libdst/chassis_dst_schema.xsd; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
 

@@ -350,21 +350,6 @@ TEST_F(Load, GoesThroughTheStatesOfItsLife) {
     EXPECT_EQ(load(two_of_each).dump(), first);
 }
 
-TEST_F(Load, AnEmptySlotAnswersForItsOperation) {
-    ASSERT_EQ(load(two_of_each).status, 0);
-    const chassis_ops_t whole = chassis_priv_ops;
-    chassis_priv_ops.libc_fru_info_get_id_by_type_slotno = nullptr;
-    chassis_priv_ops.libc_fru_info_get_next = nullptr;
-    chassis_priv_ops.libc_chassis_info_get = nullptr;
-    uint32_t id = 77;
-    EXPECT_EQ(libdst_fru_info_get_id_by_type_slotno(FRU_TYPE_FPC, 0, &id), -1);
-    EXPECT_EQ(id, 77U);
-    EXPECT_EQ(libchs_fru_info_get_next(nullptr), nullptr);
-    EXPECT_EQ(libchs_chassis_info_get(), nullptr);
-    EXPECT_TRUE(take_log().empty());
-    chassis_priv_ops = whole;
-}
-
 // Only a negative status of the slot ends libchs_init() before the EPM data is asked for.
 TEST_F(Load, APositiveStatusOfTheInitialiserGoesOn) {
     ASSERT_EQ(load(two_of_each).status, 0);
@@ -393,6 +378,7 @@ bool present(cepm_type_t type) {
     asked.push_back("present " + std::to_string(type));
     return true;
 }
+bool only_cpu_present(cepm_type_t type) { return present(type) && type == EPM_TYPE_CPUBOARDID; }
 int fill(cepm_data_t *data, cepm_type_t type) {
     asked.push_back("fill " + std::to_string(type));
     data->cepm_type = type;
@@ -415,6 +401,7 @@ TEST_F(Load, AsksTheHostForEpmData) {
         {"no presence operation", {nullptr, fill}, 0, 0, 0, {}, {}, {}},
         {"no fill operation", {present, nullptr}, 0, 0, 0, {"present 1", "present 2"}, {}, {0, 0}},
         {"both boards", {present, fill}, 0, 0, 0, {"present 1", "fill 1", "present 2", "fill 2"}, {}, {1, 2}},
+        {"one board", {only_cpu_present, fill}, 0, 0, 0, {"present 1", "present 2", "fill 2"}, {}, {2}},
         {"a positive result", {present, fill}, 0, 4, 4, {"present 1", "fill 1", "present 2", "fill 2"}, {}, {1, 2}},
         {"the first fails",
          {present, fill},
@@ -455,6 +442,9 @@ TEST_F(Load, AsksTheHostForEpmData) {
     EXPECT_EQ(libchs_chassis_epm_data_init(), 0) << "again: the old records are freed";
     ASSERT_NE(libchs_epm_data_get_by_type(EPM_TYPE_CPUBOARDID), nullptr);
     EXPECT_EQ(libchs_epm_data_get_by_type(EPM_TYPE_CPUBOARDID)->cepm_data.serial_no, EPM_TYPE_CPUBOARDID);
+    fill_result[EPM_TYPE_CPUBOARDID] = -6;
+    EXPECT_EQ(libchs_chassis_epm_data_init(), -6);
+    EXPECT_EQ(libchs_epm_data_get_next(nullptr), nullptr) << "failing empties the list, of old records too";
     libchs_release();
     EXPECT_TRUE(model_is_zero());
     epm_null_ops = {};

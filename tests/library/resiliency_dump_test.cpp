@@ -1,41 +1,30 @@
 // The dump of resiliency data, which no XML document holds, and how deep the lines of nested sections stand.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 
+#include "../harness/append.h"
 #include "../harness/load.h"
 #include "chsinfo/libdst_priv.h"
 
 namespace {
 
-// Appends a zero-filled entry, which libdst_release() frees.
-template <class Head, class Entry, class Link> Entry *add(Head &list, Link Entry::*link) {
-    auto *entry = static_cast<Entry *>(std::calloc(1, sizeof(Entry)));
-    if (!list.tqh_first)
-        list.tqh_last = &list.tqh_first;
-    (entry->*link).tqe_prev = list.tqh_last;
-    *list.tqh_last = entry;
-    list.tqh_last = &(entry->*link).tqe_next;
-    return entry;
-}
-
 resil_error_list_t *add_error(resil_module_list_t *module, resil_error_info_t info) {
-    auto *error = add(module->resil_errors, &resil_error_list_t::resil_error_next);
+    auto *error = append(module->resil_errors, &resil_error_list_t::resil_error_next);
     error->resil_einfo = info;
     return error;
 }
 
 TEST(ResiliencyDump, ShowsEveryLevel) {
     ASSERT_TRUE(model_is_zero());
-    auto *fru = add(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
+    auto *fru = append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
     fru->resil_finfo = {FRU_TYPE_FPC, 0xB4E, 7};
-    auto *module = add(fru->resil_modules, &resil_module_list_t::resil_module_next);
+    auto *module = append(fru->resil_modules, &resil_module_list_t::resil_module_next);
     module->resil_minfo = {"bridge", 0xAB12, 9};
     add_error(module, {0x1F, 200, 0x80000000, 12, 13, "parity"});
     add_error(module, {0, 1, 2, 3, 4, ""});
-    add(fru->resil_modules, &resil_module_list_t::resil_module_next);
-    add(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
+    append(fru->resil_modules, &resil_module_list_t::resil_module_next);
+    append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
 
     std::string out;
     {

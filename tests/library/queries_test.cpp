@@ -1,0 +1,599 @@
+// Every query, on models read from documents. A row says how a query is called and what it finds; the tests take all
+// rows through a model that is empty, one with one record of each kind, several records, repeated keys, or no model.
+// The EPM initialisation is in load_test.cpp.
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "../harness/append.h"
+#include "../harness/load.h"
+#include "chsinfo/libdst_priv.h"
+
+namespace {
+
+using keys = std::vector<uint32_t>;
+using lines = std::vector<std::string>;
+
+// Documents
+
+struct kind {
+    std::string device, controller;
+    uint32_t id;             // of its devices, before what `devices` adds
+    uint32_t fru_id;         // of the first of the two FRUs that they sit on
+    bool holds_frus = false; // which are of the same kind
+};
+const kind device_kinds[] = {
+    {"FAN", "ADT7470", 100, 40, true}, {"PEM", "PSUEPM", 200, 50, true}, {"PIC", "PIC", 300, 60, true},
+    {"FPC", "FPC", 400, 130, true},    {"SIB", "SIB", 500, 140, true},   {"FPM", "FPM", 600, 150, true},
+    {"FTC", "FTC", 700, 160, true},    {"CB", "CB", 800, 170, true},     {"TMPSNR", "TMP435", 900, 40},
+    {"VOLTSNR", "MAX207XX", 1000, 40}, {"LED", "DURNLED", 1100, 40},     {"LCD", "GENERICLCD", 1200, 40},
+    {"BTN", "QVLBTN", 1300, 40},
+};
+constexpr uint32_t first_tib = 1400;
+constexpr uint32_t first_tib_fru = 200;
+
+// What a device adds to the ids of its kind and of the FRU: two devices share controller and FRU.
+constexpr struct { uint32_t id, fru; } devices[] = {{5, 0}, {3, 1}, {9, 0}};
+
+std::string element(const std::string &name, uint32_t id, const std::string &attributes = "",
+                    const std::string &content = "") {
+    return "<" + name + " id='" + std::to_string(id) + "' " + attributes + ">" + content + "</" + name + ">";
+}
+std::string number(const std::string &name, uint32_t value) {
+    return "<" + name + ">" + std::to_string(value) + "</" + name + ">";
+}
+std::string i2c_device(uint32_t id, const std::string &type) { return element("I2CDEV", id, "type='" + type + "'"); }
+std::string fru(uint32_t id, const std::string &type, const std::string &parent = "<PARENT>NULL</PARENT>") {
+    return element("FRUDEV", id, "type='" + type + "'", "<I2CDEVID>-1</I2CDEVID>" + parent);
+}
+std::string port(uint32_t id, uint32_t pic) {
+    return element("PORT", id, "", number("PICI2CID", pic) + number("FRONTPANELPORT", 100 + id));
+}
+std::string asic(uint32_t id, const std::string &ports) {
+    return element("ASIC", id, "", "<CHIPBCM>" + ports + "</CHIPBCM>");
+}
+std::string optic(uint32_t port_id, uint32_t slot) { return element("PORT", port_id, "", number("PICSLOT", slot)); }
+std::string model(uint32_t id, const std::string &type) { return element("MODEL", id, "type='" + type + "'"); }
+
+// All records or one of each kind; each element so many times.
+std::string description(bool all, int copies) {
+    const auto list = [=](std::vector<std::string> elements) {
+        elements.resize(all ? elements.size() : 1);
+        std::string text;
+        for (const std::string &one : elements)
+            for (int i = 0; i < copies; ++i)
+                text += one;
+        return text;
+    };
+    std::string frus = list({fru(1, "CHASSIS"), fru(2, "CHASSIS")});
+    const auto add_frus = [&](uint32_t id, const std::string &type, uint32_t parent_id) {
+        const std::string parent = number("PARENT", parent_id);
+        frus += list({fru(id, type, parent), fru(id + 1, type, parent)});
+    };
+    std::string kinds;
+    for (const kind &one : device_kinds) {
+        std::vector<std::string> elements;
+        for (const auto &device : devices)
+            elements.push_back(element("DEVICE", one.id + device.id,
+                                       "type='" + one.device + "' ctrl='" + one.controller + "'",
+                                       number("FRUID", one.fru_id + device.fru)));
+        kinds += list(elements);
+        if (one.holds_frus)
+            add_frus(one.fru_id, one.device, one.device == "PIC" ? 130 : 1);
+    }
+    add_frus(first_tib_fru, "TIB", 1);
+    const std::string ports = list({port(5, 32), port(3, 33), port(9, 32)});
+    const std::string more_ports = list({port(6, 32), port(4, 33), port(8, 32)});
+    std::vector<std::string> asics = {asic(30, ports), asic(31, ""), asic(32, more_ports)};
+    if (all)
+        asics.insert(asics.begin(), asic(33, ""));
+    return "<DEVICE type='i2c'>" + list({i2c_device(11, "FPC"), i2c_device(13, "CB"), i2c_device(12, "FPC")}) +
+           "</DEVICE><DEVICE type='FRU'>" + frus + "</DEVICE>" + kinds + "<DEVICE type='asic'>" + list(asics) +
+           "</DEVICE><DEVICE type='optics'>" + list({optic(1, 0), optic(2, 0), optic(1, 1), optic(2, 1), optic(1, 2)}) +
+           "</DEVICE><FRUMODEL>" + list({model(3, "FAN"), model(1, "PEM"), model(2, "FAN")}) + "</FRUMODEL>" +
+           list({model(72, "CHASSIS"), model(71, "CHASSIS")});
+}
+
+// The host's EPM data: how many boards there are, and whether both say that they are the main board.
+int epm_boards;
+bool epm_repeats;
+
+void load_description(bool all, int copies = 1) {
+    epm_boards = all ? 2 : 1;
+    epm_repeats = copies > 1;
+    epm_null_ops = {[](cepm_type_t type) { return type <= epm_boards; },
+                    [](cepm_data_t *data, cepm_type_t type) {
+                        data->cepm_type = epm_repeats ? EPM_TYPE_MAINBOARDID : type;
+                        return 0;
+                    }};
+    const load_result result = load(description(all, copies));
+    ASSERT_EQ(texts_of(result.log, LOG_ERR), lines{}) << result.err;
+    for (const auto &device : devices)
+        for (int i = 0; i < copies && (all || device.id == devices[0].id); ++i) {
+            auto *entry = append(chs_info.tib_info, &tib_module_list_t::tib_next);
+            entry->tib_minfo = static_cast<tib_info_t *>(std::calloc(1, sizeof(tib_info_t)));
+            entry->tib_minfo->id = first_tib + device.id;
+            entry->tib_minfo->ctrl_type = CTRL_TYPE_TIB;
+            entry->tib_minfo->fru_info = libchs_fru_info_get_by_id(first_tib_fru + device.fru);
+        }
+}
+
+// Rows
+
+uint32_t key_of(const auto &record) { return record.id; }
+uint32_t key_of(const optics_info_t &record) { return 10 * record.port_id + record.pic_id; }
+uint32_t key_of(const cepm_data_t &record) { return record.cepm_type; }
+
+// A key that no record has.
+void lose_key(auto &record) { record.id = 99; }
+void lose_key(optics_info_t &record) { record.pic_id = 99; }
+void lose_key(cepm_data_t &record) { record.cepm_type = EPM_TYPE_MAX; }
+
+auto all_of(auto next) {
+    std::vector<decltype(next(nullptr))> found;
+    for (auto *at = next(nullptr); at && found.size() < 1000; at = next(at))
+        found.push_back(at);
+    return found;
+}
+
+// How a walk finds the record passed: by its key, or by its FRU and controller.
+struct by_key {
+    static auto place(const auto &record) { return key_of(record); }
+    static void lose(auto &record) { lose_key(record); }
+};
+struct by_fru {
+    static auto place(const auto &record) { return record.ctrl_type; }
+    static void lose(auto &record) { record.fru_info = nullptr; }
+};
+
+template <class By, class Next, class Others> struct walk {
+    std::string operation, empty; // who logs what of an empty list
+    Next next;                    // called with the previous record
+    keys one, several;            // of a document with one record of a kind, and with several
+    std::size_t repeated;         // records found where each element of the latter stands twice
+    Others others;                // a walk over the same records and some that this one leaves out
+    std::string end = {};         // logged with every null result
+
+    using by = By;
+    using record = std::remove_pointer_t<decltype(std::declval<Next>()(nullptr))>;
+
+    std::vector<log_line> end_log() const {
+        std::vector<log_line> log;
+        if (!end.empty())
+            log.push_back({LOG_ERR, operation + ": " + end});
+        return log;
+    }
+};
+
+auto filtered(const char *operation, const char *empty, auto next, const keys &one, const keys &several,
+              std::size_t repeated, auto others) {
+    return walk<by_key, decltype(next), decltype(others)>{operation, empty, next, one, several, repeated, others};
+}
+auto plain(const char *operation, const char *empty, auto next, const keys &one, const keys &several) {
+    return filtered(operation, empty, next, one, several, 2 * several.size(), next);
+}
+auto device(const char *operation, const char *empty, auto next, uint32_t id) {
+    return plain(operation, empty, next, {id + 5}, {id + 5, id + 3, id + 9});
+}
+auto fru_of(const char *operation, auto next, uint32_t id, const char *empty = "empty fru list!") {
+    return filtered(operation, empty, next, {id}, {id, id + 1}, 4, libchs_fru_info_get_next);
+}
+// A query whose first argument stays the same.
+template <class R> auto with(uint32_t fixed, R *(*query)(uint32_t, R *)) {
+    return [=](R *previous) { return query(fixed, previous); };
+}
+template <class R>
+auto on_fru(const char *operation, const char *empty, R *(*query)(uint32_t, R *), uint32_t fru_id, uint32_t id,
+            R *(*others)(R *)) {
+    const auto next = with(fru_id, query);
+    return walk<by_fru, decltype(next), decltype(others)>{operation,        empty, next,  {id + 5},
+                                                          {id + 5, id + 9}, 4,     others};
+}
+auto relative(const char *operation, auto next, const keys &one, const keys &several) {
+    auto row = filtered(operation, "empty fru list!", next, one, several, 4, libchs_fru_info_get_next);
+    row.end = "could not find the fru info for the parent!";
+    return row;
+}
+
+// Ports of either PIC.
+bcm_port_info_t *next_port(bcm_port_info_t *port) {
+    if (port && port->pic_i2cid == 33)
+        return libchs_bcm_port_info_get_next_by_picid(33, port);
+    bcm_port_info_t *next = libchs_bcm_port_info_get_next_by_picid(32, port);
+    return next ? next : libchs_bcm_port_info_get_next_by_picid(33, nullptr);
+}
+
+fru_info_t fpc_0{}; // a copy of the key of a FRU, in place of the model's record
+
+void each_walk(auto check) {
+    const char *const i2c = "Empty i2c device list!";
+    check(plain("i2c_dev_info_get_next_priv", i2c, libchs_i2c_dev_info_get_next, {11}, {11, 13, 12}));
+    const auto fpc_i2c = [](i2c_dev_info_t *at) { return libchs_i2c_dev_info_get_next_by_type(at, I2C_TYPE_FPC); };
+    check(
+        filtered("i2c_dev_info_get_next_by_type_priv", i2c, fpc_i2c, {11}, {11, 12}, 4, libchs_i2c_dev_info_get_next));
+
+    check(device("fan_info_get_next_priv", "empty fan list!", libchs_fan_info_get_next, 100));
+    check(device("pem_info_get_next_priv", "empty pem list!", libchs_pem_info_get_next, 200));
+    check(device("pic_info_get_next_priv", "empty pic list!", libchs_pic_info_get_next, 300));
+    check(device("fpc_info_get_next_priv", "empty fpc list!", libchs_fpc_info_get_next, 400));
+    check(device("sib_info_get_next_priv", "empty sib list!", libchs_sib_info_get_next, 500));
+    check(device("fpm_info_get_next_priv", "empty fpm list!", libchs_fpm_info_get_next, 600));
+    check(device("ftc_info_get_next_priv", "empty ftc list!", libchs_ftc_info_get_next, 700));
+    check(device("cb_info_get_next_priv", "empty cb list!", libchs_cb_info_get_next, 800));
+    check(device("tmpsnr_info_get_next_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_next, 900));
+    check(device("voltsnr_info_get_next_priv", "empty volt sensor list!", libchs_voltsnr_info_get_next, 1000));
+    check(device("led_info_get_next_priv", "empty led list!", libchs_led_info_get_next, 1100));
+    check(device("lcd_info_get_next_priv", "empty lcd list!", libchs_lcd_info_get_next, 1200));
+    check(device("btn_info_get_next_priv", "empty btn list!", libchs_btn_info_get_next, 1300));
+    check(device("tib_info_get_next_priv", "empty tib list!\\n", libchs_tib_info_get_next, 1400));
+
+    check(plain("asic_info_get_next_priv", "empty asic list!", libchs_asic_info_get_next, {30}, {33, 30, 31, 32}));
+    const auto asic_30 = with(30, libchs_bcm_port_info_get_next);
+    check(filtered("bcm_port_info_get_next_priv", "empty asic list!", asic_30, {5}, {5, 3, 9}, 6, next_port));
+    const auto pic_32 = with(32, libchs_bcm_port_info_get_next_by_picid);
+    check(
+        filtered("bcm_port_info_get_next_by_picid_priv", "empty asic list!", pic_32, {5}, {5, 9, 6, 8}, 16, next_port));
+
+    const char *const no_optics = "empty optics list!";
+    const auto optics = libchs_optics_info_get_next;
+    check(plain("optics_info_get_next_priv", no_optics, optics, {10}, {10, 20, 11, 21, 12}));
+    const auto port_1 = with(1, libchs_optics_info_get_next_by_port_no);
+    check(filtered("optics_info_get_next_by_portno_priv", no_optics, port_1, {10}, {10, 11, 12}, 6, optics));
+    const auto slot_0 = with(0, libchs_optics_info_get_next_by_slotno);
+    check(filtered("optics_info_get_next_by_slotno_priv", no_optics, slot_0, {10}, {10, 20}, 4, optics));
+
+    const auto models = [](const fru_model_info_t *at) { return libdst_fru_model_info_get_next(at); };
+    check(plain("fru_model_info_get_next_priv", "empty fru model list!", models, {3}, {3, 1, 2}));
+    const auto fans = [](const fru_model_info_t *at) {
+        return libdst_fru_model_info_get_next_by_type(at, FRU_TYPE_FAN);
+    };
+    check(filtered("fru_model_info_get_next_by_type_priv", "empty fru model list!", fans, {3}, {3, 2}, 4, models));
+    check(plain("chassis_model_info_get_next_priv", "empty chassis model list!", libdst_chassis_model_info_get_next,
+                {72}, {72, 71}));
+    check(filtered("epm_data_get_next_priv", "empty epm list!", libchs_epm_data_get_next, {1}, {1, 2}, 2,
+                   libchs_epm_data_get_next));
+
+    check(plain("fru_info_get_next_priv", "empty fru list!", libchs_fru_info_get_next,
+                {1, 40, 50, 60, 130, 140, 150, 160, 170, 200},
+                {1, 2, 40, 41, 50, 51, 60, 61, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}));
+    check(fru_of("fru_info_get_next_by_fan_priv", libchs_fru_info_get_next_by_fan, 40));
+    check(fru_of("fru_info_get_next_by_pem_priv", libchs_fru_info_get_next_by_pem, 50));
+    check(fru_of("fru_info_get_next_by_pic_priv", libchs_fru_info_get_next_by_pic, 60));
+    check(fru_of("fru_info_get_next_by_fpc_priv", libchs_fru_info_get_next_by_fpc, 130));
+    check(fru_of("fru_info_get_next_by_sib_priv", libchs_fru_info_get_next_by_sib, 140));
+    check(fru_of("fru_info_get_next_by_fpm_priv", libchs_fru_info_get_next_by_fpm, 150));
+    check(fru_of("fru_info_get_next_by_ftc_priv", libchs_fru_info_get_next_by_ftc, 160));
+    check(fru_of("fru_info_get_next_by_cb_priv", libchs_fru_info_get_next_by_cb, 170));
+    check(fru_of("fru_info_get_next_by_tib_priv", libchs_fru_info_get_next_by_tib, 200, "empty fru list!\\n"));
+    check(relative("fru_info_get_next_parent_priv", libchs_fru_info_get_next_parent, {1}, {1, 2}));
+    fpc_0.id = 130;
+    const auto children = [](fru_info_t *at) { return libchs_fru_info_get_next_child(&fpc_0, at); };
+    check(relative("fru_info_get_next_child_priv", children, {60}, {60, 61}));
+
+    check(on_fru("fru_fan_info_get_next_priv", "empty fan list!", libchs_fru_fan_info_get_next, 40, 100,
+                 libchs_fan_info_get_next));
+    check(on_fru("fru_pem_info_get_next_priv", "empty pem list!", libchs_fru_pem_info_get_next, 50, 200,
+                 libchs_pem_info_get_next));
+    check(on_fru("fru_pic_info_get_next_priv", "empty pic list!", libchs_fru_pic_info_get_next, 60, 300,
+                 libchs_pic_info_get_next));
+    check(on_fru("fru_fpc_info_get_next_priv", "empty fpc list!", libchs_fru_fpc_info_get_next, 130, 400,
+                 libchs_fpc_info_get_next));
+    check(on_fru("fru_sib_info_get_next_priv", "empty sib list!", libchs_fru_sib_info_get_next, 140, 500,
+                 libchs_sib_info_get_next));
+    check(on_fru("fru_fpm_info_get_next_priv", "empty fpm list!", libchs_fru_fpm_info_get_next, 150, 600,
+                 libchs_fpm_info_get_next));
+    check(on_fru("fru_ftc_info_get_next_priv", "empty ftc list!", libchs_fru_ftc_info_get_next, 160, 700,
+                 libchs_ftc_info_get_next));
+    check(on_fru("fru_cb_info_get_next_priv", "empty cb list!", libchs_fru_cb_info_get_next, 170, 800,
+                 libchs_cb_info_get_next));
+    check(on_fru("fru_tib_info_get_next_priv", "empty tib list!\\n", libchs_fru_tib_info_get_next, 200, 1400,
+                 libchs_tib_info_get_next));
+}
+
+template <class Find, class Next> struct lookup {
+    std::string operation, empty;
+    Find find;
+    uint32_t known, unknown; // keys
+    Next next;               // over the list that is looked through
+};
+template <class Find, class Next>
+lookup(const char *, const char *, Find, uint32_t, uint32_t, Next) -> lookup<Find, Next>;
+
+void each_lookup(auto check) {
+    check(lookup{"i2c_dev_info_by_id_priv", "Empty i2c device list!", libchs_i2c_dev_info_by_id, 12, 14,
+                 libchs_i2c_dev_info_get_next});
+    check(lookup{"tmpsnr_info_get_by_id_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_by_id, 909, 1005,
+                 libchs_tmpsnr_info_get_next});
+    check(lookup{"voltsnr_info_get_by_id_priv", "empty volt sensor list!", libchs_voltsnr_info_get_by_id, 1009, 905,
+                 libchs_voltsnr_info_get_next});
+    check(lookup{"led_info_get_by_id_priv", "empty led/lcd list!", libchs_led_info_get_by_id, 1109, 1205,
+                 libchs_led_info_get_next});
+    check(lookup{"lcd_info_get_by_id_priv", "empty lcd list!", libchs_lcd_info_get_by_id, 1209, 1105,
+                 libchs_lcd_info_get_next});
+    check(lookup{"btn_info_get_by_id_priv", "empty button list!", libchs_btn_info_get_by_id, 1309, 0,
+                 libchs_btn_info_get_next});
+    check(lookup{"fru_info_get_by_id_priv", "empty fru list!", libchs_fru_info_get_by_id, 201, 3,
+                 libchs_fru_info_get_next});
+    check(lookup{"bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 108,
+                 next_port}); // 108: the front-panel port of port 8
+    const auto by_type = [](uint32_t type) { return libchs_epm_data_get_by_type(static_cast<cepm_type_t>(type)); };
+    check(lookup{"epm_data_get_by_type_priv", "empty epm list!", by_type, EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN,
+                 libchs_epm_data_get_next});
+}
+
+// Tests
+
+class Queries : public testing::Test {
+  protected:
+    void TearDown() override {
+        libchs_release();
+        epm_null_ops = {};
+    }
+};
+
+// Every query with nothing to find: null or -1, with the line of an empty list, or silently.
+void expect_nothing(bool logged) {
+    const auto log_of = [logged](const auto &row) {
+        std::vector<log_line> log;
+        if (logged)
+            log.push_back({LOG_ERR, row.operation + ": " + row.empty});
+        return log;
+    };
+    take_log();
+    each_walk([&](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        EXPECT_EQ(row.next(nullptr), nullptr);
+        EXPECT_EQ(take_log(), log_of(row));
+        typename std::decay_t<decltype(row)>::record any{};
+        EXPECT_EQ(row.next(&any), nullptr);
+        EXPECT_EQ(take_log(), log_of(row));
+    });
+    each_lookup([&](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        EXPECT_EQ(row.find(row.known), nullptr);
+        EXPECT_EQ(take_log(), log_of(row));
+    });
+    uint32_t id = 77;
+    EXPECT_EQ(libdst_fru_info_get_id_by_type_slotno(FRU_TYPE_CB, 0, &id), -1);
+    EXPECT_EQ(id, 77U);
+    EXPECT_EQ(texts_of(take_log(), LOG_ERR),
+              logged ? lines{"fru_info_get_id_by_type_slotno_priv: empty fru list!"} : lines{});
+    EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 1), nullptr);
+    EXPECT_EQ(libdst_resil_module_list_get_next(nullptr, nullptr), nullptr);
+    EXPECT_EQ(take_log().size(), 0U);
+}
+
+TEST_F(Queries, AnEmptyListIsLoggedUnderTheOperationsName) {
+    ASSERT_EQ(load("").status, 0);
+    expect_nothing(true);
+}
+
+TEST_F(Queries, WithoutAModel) {
+    expect_nothing(false);
+    ASSERT_LT(load("<VERSION/>").status, 0);
+    expect_nothing(true);
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    libchs_release();
+    expect_nothing(false);
+    EXPECT_EQ(libchs_chassis_epm_data_init(), -1);
+}
+
+TEST_F(Queries, AnEmptySlotAnswersForItsOperation) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    const chassis_ops_t whole = chassis_priv_ops;
+    chassis_priv_ops = {};
+    expect_nothing(false);
+    EXPECT_EQ(libchs_chassis_info_get(), nullptr);
+    EXPECT_EQ(libchs_chassis_epm_data_init(), -1);
+    resil_module_list_t module{};
+    resil_fru_list_t entry{};
+    entry.resil_modules.tqh_first = &module;
+    EXPECT_EQ(libdst_resil_module_list_get_next(&entry, nullptr), nullptr);
+    EXPECT_EQ(take_log().size(), 0U);
+    chassis_priv_ops = whole;
+}
+
+keys keys_of(const auto &records) {
+    keys found;
+    for (const auto *record : records)
+        found.push_back(key_of(*record));
+    return found;
+}
+
+// What follows copies of the records, unknown records and records that the walk leaves out.
+void expect_positions(const auto &row, const auto &found) {
+    using row_t = std::decay_t<decltype(row)>;
+    using by = typename row_t::by;
+    const auto expect_next = [&](auto *argument, auto *expected, const char *what) {
+        take_log();
+        EXPECT_EQ(row.next(argument), expected) << what;
+        EXPECT_EQ(take_log(), expected ? std::vector<log_line>{} : row.end_log()) << what;
+    };
+    for (const auto *record : found) {
+        auto copy = *record;
+        const auto first = std::find_if(found.begin(), found.end(),
+                                        [&](const auto *one) { return by::place(*one) == by::place(copy); });
+        expect_next(&copy, first + 1 == found.end() ? nullptr : *(first + 1), "a copy");
+        by::lose(copy);
+        expect_next(&copy, decltype(row.next(nullptr)){}, "an unknown record");
+    }
+    for (auto *other : all_of(row.others))
+        if (std::find(found.begin(), found.end(), other) == found.end())
+            expect_next(other, decltype(row.next(nullptr)){}, "a record left out");
+}
+
+TEST_F(Queries, WalkOneRecord) {
+    ASSERT_NO_FATAL_FAILURE(load_description(false));
+    each_walk([](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        take_log();
+        const auto found = all_of(row.next);
+        EXPECT_EQ(take_log(), row.end_log());
+        EXPECT_EQ(keys_of(found), row.one);
+        expect_positions(row, found);
+    });
+}
+
+TEST_F(Queries, WalkSeveralRecords) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    each_walk([](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        take_log();
+        const auto found = all_of(row.next);
+        EXPECT_EQ(take_log(), row.end_log());
+        EXPECT_EQ(keys_of(found), row.several);
+        expect_positions(row, found);
+    });
+    each_lookup([](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        take_log();
+        const auto *found = row.find(row.known);
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(key_of(*found), row.known);
+        EXPECT_EQ(row.find(row.unknown), nullptr);
+        EXPECT_EQ(take_log().size(), 0U);
+    });
+}
+
+TEST_F(Queries, WalksOverRepeatedKeysEnd) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true, 2));
+    each_walk([](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        auto found = all_of(row.next);
+        ASSERT_EQ(found.size(), row.repeated);
+        auto copy = *found[1];
+        EXPECT_EQ(row.next(&copy), found[1]) << "a copy of the second stands for the first";
+        std::sort(found.begin(), found.end());
+        EXPECT_EQ(std::unique(found.begin(), found.end()), found.end()) << "each once";
+    });
+    each_lookup([](const auto &row) {
+        SCOPED_TRACE(row.operation);
+        const auto all = all_of(row.next);
+        const auto first =
+            std::find_if(all.begin(), all.end(), [&](const auto *one) { return key_of(*one) == row.known; });
+        ASSERT_NE(first, all.end());
+        EXPECT_EQ(row.find(row.known), *first);
+    });
+}
+
+// What the rows do not show
+
+TEST_F(Queries, PortsOfAnAsicThatIsNotThere) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    take_log();
+    bcm_port_info_t *port = libchs_bcm_port_info_get_by_port_no(5);
+    for (uint32_t asic : {31U, 99U}) {
+        EXPECT_EQ(libchs_bcm_port_info_get_next(asic, nullptr), nullptr);
+        EXPECT_EQ(libchs_bcm_port_info_get_next(asic, port), nullptr);
+    }
+    EXPECT_EQ(take_log().size(), 0U);
+}
+
+TEST_F(Queries, AModelByTypeIsFoundByIdAndType) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    fru_model_info_t copy = *libdst_fru_model_info_get_next(nullptr);
+    const fru_model_info_t *second = libdst_fru_model_info_get_next(&copy);
+    copy.fru_type = FRU_TYPE_PEM;
+    EXPECT_EQ(libdst_fru_model_info_get_next(&copy), second);
+    EXPECT_EQ(libdst_fru_model_info_get_next_by_type(&copy, FRU_TYPE_FAN), nullptr);
+    EXPECT_EQ(libdst_fru_model_info_get_next_by_type(&copy, FRU_TYPE_PEM), nullptr);
+}
+
+TEST_F(Queries, ControllersTellDevicesOfAFruApart) {
+    ASSERT_EQ(load("<DEVICE type='FRU'><FRUDEV id='4' type='FAN'/></DEVICE>"
+                   "<DEVICE type='FAN' ctrl='ADT7470' id='1'><FRUID>4</FRUID></DEVICE>"
+                   "<DEVICE type='FAN' ctrl='GFC0812' id='1'><FRUID>4</FRUID></DEVICE>"
+                   "<DEVICE type='FAN' ctrl='FANSYSPLD' id='1'><FRUID>4</FRUID></DEVICE>")
+                  .status,
+              0);
+    const auto fans = all_of(with(4, libchs_fru_fan_info_get_next));
+    ASSERT_EQ(fans.size(), 3U);
+    fan_info_t copy = *fans[1];
+    EXPECT_EQ(libchs_fru_fan_info_get_next(4, &copy), fans[2]);
+}
+
+TEST_F(Queries, ADeviceWithoutFruIsOnNone) {
+    ASSERT_EQ(load("<DEVICE type='FRU'><FRUDEV id='4' type='PIC'/></DEVICE>"
+                   "<DEVICE type='PIC' ctrl='PIC' id='1'><FRUID>4</FRUID></DEVICE>"
+                   "<DEVICE type='PIC' ctrl='PIC' id='2'><FRUID>5</FRUID></DEVICE>")
+                  .status,
+              0);
+    const auto pics = all_of(libchs_pic_info_get_next);
+    ASSERT_EQ(pics.size(), 2U);
+    ASSERT_EQ(pics[1]->fru_info, nullptr);
+    EXPECT_EQ(all_of(with(4, libchs_fru_pic_info_get_next)), std::vector{pics[0]});
+    for (uint32_t fru : {4U, 5U})
+        EXPECT_EQ(libchs_fru_pic_info_get_next(fru, pics[1]), nullptr);
+}
+
+TEST_F(Queries, TheFruTree) {
+    EXPECT_EQ(load("").status, 0);
+    take_log();
+    EXPECT_EQ(libchs_fru_info_get_next_child(nullptr, nullptr), nullptr);
+    const lines no_parent = {"fru_info_get_next_child_priv: input parent should not be NULL!"};
+    EXPECT_EQ(texts_of(take_log(), LOG_ERR), no_parent) << "before the empty list";
+
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    take_log();
+    fru_info_t *chassis = libchs_fru_info_get_by_id(1);
+    const auto children_of = [](fru_info_t *parent) {
+        return keys_of(all_of([parent](fru_info_t *at) { return libchs_fru_info_get_next_child(parent, at); }));
+    };
+    EXPECT_EQ(children_of(chassis), (keys{40, 41, 50, 51, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}));
+    EXPECT_EQ(children_of(libchs_fru_info_get_by_id(60)), keys{});
+    const std::string end = "fru_info_get_next_child_priv: could not find the fru info for the parent!";
+    EXPECT_EQ(texts_of(take_log(), LOG_ERR), (lines{end, end}));
+    EXPECT_EQ(libchs_fru_info_get_next_child(nullptr, libchs_fru_info_get_by_id(60)), nullptr);
+    EXPECT_EQ(texts_of(take_log(), LOG_ERR), no_parent);
+}
+
+TEST_F(Queries, AFruIdByTypeAndSlot) {
+    ASSERT_EQ(load("<DEVICE type='FRU'><FRUDEV id='1' type='CB'><SLOTID>255</SLOTID></FRUDEV>"
+                   "<FRUDEV id='2' type='FPC'><SLOTID>1</SLOTID></FRUDEV>"
+                   "<FRUDEV id='3' type='FPC'><SLOTID>255</SLOTID></FRUDEV>"
+                   "<FRUDEV id='4' type='FPC'><SLOTID>255</SLOTID></FRUDEV></DEVICE>")
+                  .status,
+              0);
+    take_log();
+    for (auto *query : {libdst_fru_info_get_id_by_type_slotno, fru_info_get_id_by_type_slotno_priv}) {
+        uint32_t id = 77;
+        EXPECT_EQ(query(FRU_TYPE_FPC, 255, &id), 0);
+        EXPECT_EQ(id, 3U) << "the first";
+        for (uint32_t slot : {0U, 256U, 257U, 511U, 0xFFFFFFFFU})
+            EXPECT_EQ(query(FRU_TYPE_FPC, slot, &id), -1);
+        EXPECT_EQ(query(FRU_TYPE_CB, 1, &id), -1);
+        EXPECT_EQ(id, 3U) << "untouched";
+    }
+    EXPECT_EQ(take_log().size(), 0U);
+}
+
+TEST_F(Queries, ResiliencyData) {
+    ASSERT_EQ(load("").status, 0);
+    take_log();
+    const resil_fru_info_t entries[] = {{FRU_TYPE_FPC, 0x10004, 0},
+                                        {FRU_TYPE_CB, 0xFFFE, 0},
+                                        {FRU_TYPE_FPC, 0xFFFE, 0},
+                                        {FRU_TYPE_FPC, 0xFFFE, 0},
+                                        {FRU_TYPE_FPC, 4, 0}};
+    std::vector<resil_fru_list_t *> frus;
+    for (const auto &info : entries) {
+        frus.push_back(append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next));
+        frus.back()->resil_finfo = info;
+    }
+    EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 0xFFFE), frus[2]) << "of this kind, and the first";
+    EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_CB, 0xFFFE), frus[1]);
+    EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 4), frus[4]) << "all bits of the entry's id count";
+    EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 5), nullptr);
+
+    resil_module_list_t *modules[2];
+    for (auto *&module : modules)
+        module = append(frus[4]->resil_modules, &resil_module_list_t::resil_module_next);
+    EXPECT_EQ(libdst_resil_module_list_get_next(frus[4], nullptr), modules[0]);
+    EXPECT_EQ(libdst_resil_module_list_get_next(frus[0], modules[0]), modules[1]) << "by the module's own link";
+    EXPECT_EQ(libdst_resil_module_list_get_next(nullptr, modules[0]), modules[1]);
+    EXPECT_EQ(libdst_resil_module_list_get_next(frus[4], modules[1]), nullptr);
+    EXPECT_EQ(libdst_resil_module_list_get_next(frus[0], nullptr), nullptr) << "an entry without modules";
+    EXPECT_EQ(take_log().size(), 0U);
+}
+
+} // namespace

@@ -62,6 +62,62 @@ TEST(Memory, RunsOutInTheReader) {
     EXPECT_GT(failures, 100);
 }
 
+// The whole chain, innermost first, of the allocation that fails.
+TEST(Memory, IsMissedByTheReaderThatAskedForIt) {
+    const std::string fan = R"(<DEVICE type="FAN" ctrl="ADT7470" id="0"><FAN id="0"><SS2RPM/></FAN></DEVICE>)";
+    const std::string sensor = R"(<DEVICE type="TMPSNR" ctrl="TMP75" id="0"><THRESHOLD id="0" type="AFO">)"
+                               R"(<LIMIT id="0"/><ALARM id="0" type="SYS_RED">1</ALARM></THRESHOLD></DEVICE>)";
+    const std::string asic = R"(<DEVICE type="asic"><ASIC id="0"><CHIPBCM><PORT id="0"/></CHIPBCM></ASIC></DEVICE>)";
+    const std::vector<std::string> fan_tray = {"libdst_dev_fan_per_tag: failed in parsing fan tag!",
+                                               "libdst_dev_fan_adt7470_op: could not get fan info!",
+                                               "libdst_dev_fan_op: could not get fan op for the ctrl!",
+                                               "libdst_device_tag_op: could not get device (FAN) info!"};
+    const std::vector<std::string> threshold = {
+        "libdst_dev_tmpsnr_per_threshold_tag_op: failed in parsing temperature sensor threshold tag!",
+        "libdst_dev_tmpsnr_per_tag: failed in parsing temperature sensor tag!",
+        "libdst_dev_tmpsnr_tmp75_op: could not get temperature sensor info!",
+        "libdst_dev_tmpsnr_op: could not get temperature sensor op for the ctrl!",
+        "libdst_device_tag_op: could not get device (TMPSNR) info!"};
+    const struct {
+        std::string document;
+        int allocation;
+        std::vector<std::string> readers; // the one that asked for memory, then what follows its line
+        std::vector<std::string> and_then;
+    } cases[] = {
+        {fan, 1, {"libdst_dev_fan_op"}, {"libdst_device_tag_op: could not get device (FAN) info!"}},
+        {fan, 2, {"libdst_dev_fan_adt7470_op"}, {fan_tray.begin() + 2, fan_tray.end()}},
+        {fan, 3, {"libdst_dev_fan_fan_tag_adt7470_op"}, fan_tray},
+        {fan,
+         4,
+         {"libdst_dev_ss2rpm_tag_op", "libdst_dev_fan_fan_tag_adt7470_op: failed in parsing fan/fan tag!"},
+         fan_tray},
+        {sensor, 3, {"libdst_dev_tmpsnr_per_threshold_tag_op"}, {threshold.begin() + 1, threshold.end()}},
+        {sensor, 4, {"libdst_dev_tmpsnr_thres_limit_tag_op"}, threshold},
+        {sensor, 5, {"libdst_dev_tmpsnr_thres_alarm_tag_op"}, threshold},
+        {asic,
+         2,
+         {"libdst_dev_asic_cb_port_tag_op"},
+         {"libdst_dev_asic_per_chipbcm_tag_op: failed in parsing asic chipbcm tag!",
+          "libdst_dev_asic_per_tag: failed in parsing asic tag!", "libdst_dev_asic_op: could not get asic info!",
+          "libdst_device_tag_op: could not get device (asic) info!"}},
+        {asic, 1, {"libdst_dev_asic_op"}, {"libdst_device_tag_op: could not get device (asic) info!"}},
+        {R"(<MODEL id="0" type="CHASSIS"/>)", 1, {"libdst_chsmodel_tag_op"}, {}},
+    };
+    for (const auto &one : cases) {
+        SCOPED_TRACE(one.readers.front());
+        auto expected = one.readers;
+        expected.front() += no_memory;
+        const auto tail = failure_tail("fails");
+        expected.insert(expected.end(), one.and_then.begin(), one.and_then.end());
+        expected.insert(expected.end(), tail.begin(), tail.end());
+        fail_allocations(one.allocation, one.allocation);
+        const load_result result = load(one.document);
+        fail_allocations(0, 0);
+        EXPECT_EQ(texts_of(result.log, LOG_ERR), expected);
+        libchs_release();
+    }
+}
+
 bool present(cepm_type_t) { return true; }
 int fill(cepm_data_t *data, cepm_type_t type) {
     data->cepm_type = type;

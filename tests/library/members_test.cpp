@@ -39,9 +39,9 @@ template <class Module> std::vector<numbers> speed_tables(fan_info_t &tray) {
 
 constexpr char speeds[] = R"(
     <FAN id="0"><TACH_HIGH_BYTE_REG>0x2b</TACH_HIGH_BYTE_REG>
-      <SS2RPM><SPEED>50</SPEED><RPM>0x10</RPM><TOLERANCE>15</TOLERANCE><PWMVAL>0x80</PWMVAL></SS2RPM>
+      <SS2RPM><SPEED>050</SPEED><RPM>0x10</RPM><TOLERANCE>015</TOLERANCE><PWMVAL>0x80</PWMVAL></SS2RPM>
       <SS2RPM><PWMVAL>010</PWMVAL><RPM>-1</RPM></SS2RPM>
-      <SS2RPM><SPEED>30</SPEED></SS2RPM>
+      <SS2RPM><SPEED>030</SPEED></SS2RPM>
     </FAN>
     <FAN id="1"/>
     <FAN id="2"><SS2RPM/></FAN></DEVICE>)";
@@ -145,7 +145,7 @@ std::ptrdiff_t announced(const std::vector<log_line> &log) {
 TEST_F(Members, LcdsAreReadAndAnnounced) {
     const load_result result = load_devices(R"(
         <DEVICE type="LCD" ctrl="GENERICLCD" id="6">
-          <DRIVERID>12</DRIVERID><LCDTYPE>LCD_FP0</LCDTYPE><LCDTYPE>LCD_FP1</LCDTYPE><NAME>front</NAME></DEVICE>
+          <DRIVERID>012</DRIVERID><LCDTYPE>LCD_FP0</LCDTYPE><LCDTYPE>LCD_FP1</LCDTYPE><NAME>front</NAME></DEVICE>
         <DEVICE type="LCD" ctrl="GENERICLCD" id="2"><LCDTYPE>lcd_fp0</LCDTYPE></DEVICE>)");
     numbers read;
     for (const lcd_info_t &lcd : dst::records<dst::lcds>(&chs_info)) {

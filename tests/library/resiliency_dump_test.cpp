@@ -26,6 +26,9 @@ TEST(ResiliencyDump, ShowsEveryLevel) {
     append(fru->resil_modules, &resil_module_list_t::resil_module_next);
     append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
 
+    chs_info.chs_cinfo.chs_info.enable_resiliency = 4;
+    chs_info.chs_cinfo.chs_info.sib_init_spmb = 5;
+
     std::string out;
     {
         streams_capture streams;
@@ -34,6 +37,7 @@ TEST(ResiliencyDump, ShowsEveryLevel) {
     }
     libdst_release();
     EXPECT_TRUE(model_is_zero());
+    EXPECT_NE(out.find("    <RESILIENCY>4</RESILIENCY>\n    <SIBINITSPMB>5</SIBINITSPMB>\n"), std::string::npos) << out;
     const auto section = out.find("    <RESILMODEL>");
     ASSERT_NE(section, std::string::npos) << out;
     EXPECT_EQ(out.substr(section), R"(    <RESILMODEL>

@@ -1,9 +1,15 @@
 // Slot boards and power supplies, single devices: DEVICE types "FPC", "SIB", "FPM", "FTC", "CB" and "PEM", with one
 // controller each.
-// A new element: its member in libdst.h, a row in SLOT_BOARD and its handler's name in each board, the dump and the
-// schema, a case. A new board: its records in libdst.h, their rows in records.h and kinds.h, its SLOT_BOARD here.
+// A new element: its member in libdst.h, its row in BOARD_ELEMENTS and its handler's name in each board, the dump
+// and the schema, a case. A new board: its records in libdst.h, their rows in records.h and kinds.h, its SLOT_BOARD
+// here.
 #include "patterns.h"
 #include "readers.h"
+
+#define BOARD_ELEMENTS(ROW, T, board, held, name_op, fruid_op, driverid_op)                                            \
+    ROW(T, FIELD, "NAME", name_op, libdst_parse_tag_string, held->name)                                                \
+    ROW(T, FRUID, "FRUID", fruid_op, board)                                                                            \
+    ROW(T, FIELD, "DRIVERID", driverid_op, libdst_parse_tag_uint32, held->driver_id)
 
 #define SLOT_BOARD(board, kind, held, word, ctrl, type, device_op, id_attr_op, parser_t, elements, name_op, fruid_op,  \
                    driverid_op, per_tag, controllers, controller_op)                                                   \
@@ -13,11 +19,9 @@
         static constexpr auto id_attr = id_attr_op;                                                                    \
     };                                                                                                                 \
     using parser_t = dst::tag_entry<kind::entry_t>;                                                                    \
-    DST_HANDLER_FIELD(kind::entry_t, "NAME", name_op, libdst_parse_tag_string, held->name)                             \
-    DST_HANDLER_FRUID(kind::entry_t, "FRUID", fruid_op, board)                                                         \
-    DST_HANDLER_FIELD(kind::entry_t, "DRIVERID", driverid_op, libdst_parse_tag_uint32, held->driver_id)                \
+    BOARD_ELEMENTS(DST_HANDLER, kind::entry_t, board, held, name_op, fruid_op, driverid_op)                            \
     static const parser_t elements[] = {                                                                               \
-        {"NAME", name_op}, {"FRUID", fruid_op}, {"DRIVERID", driverid_op}, {nullptr, nullptr}};                        \
+        BOARD_ELEMENTS(DST_ENTRY, kind::entry_t, board, held, name_op, fruid_op, driverid_op){nullptr, nullptr}};      \
     static int per_tag(xmlDocPtr doc, xmlNodePtr device, kind::entry_t *node) {                                        \
         return dst::walk(__func__, elements, doc, device, node, board::words.walk);                                    \
     }                                                                                                                  \

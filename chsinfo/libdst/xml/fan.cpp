@@ -35,25 +35,25 @@ using xml_tag_parser_fan_fan_syspld_t = dst::tag_entry<pelian_fan_syspld_info_t>
     ROW(T, APPEND, "SS2RPM", libdst_dev_ss2rpm_tag_op, ss2rpm, read_speed)
 DST_TABLE(dst_tag_fan_fan_op, xml_tag_parser_fan_fan_t, adt7470_fan_info_t, ADT7470_ELEMENTS)
 
+// Two controllers select the fan by a register of its own.
+#define SELECTED_FAN_ELEMENTS(ROW, T, name_op, tlbe_op, pdcr_op, eifs_op, ss2rpm_op)                                   \
+    ROW(T, FIELD, "NAME", name_op, libdst_parse_tag_string, name)                                                      \
+    ROW(T, FIELD, "TACH_LOW_BYTE_REG", tlbe_op, libdst_parse_tag_hex, tach_low_byte_reg)                               \
+    ROW(T, FIELD, "PWM_DUTY_CYCLE_REG", pdcr_op, libdst_parse_tag_hex, pwm_duty_cycle_reg)                             \
+    ROW(T, FIELD, "FAN_SELECT_REG", eifs_op, libdst_parse_tag_hex, ec_i2cs_fan_select)                                 \
+    ROW(T, APPEND, "SS2RPM", ss2rpm_op, ss2rpm, read_speed)
+
 #define GFC0812_ELEMENTS(ROW, T)                                                                                       \
-    ROW(T, FIELD, "NAME", libdst_dev_fan_fan_name_tag_gfc0812_op, libdst_parse_tag_string, name)                       \
-    ROW(T, FIELD, "TACH_LOW_BYTE_REG", libdst_dev_fan_fan_tlbe_tag_gfc0812_op, libdst_parse_tag_hex,                   \
-        tach_low_byte_reg)                                                                                             \
-    ROW(T, FIELD, "PWM_DUTY_CYCLE_REG", libdst_dev_fan_fan_pdcr_tag_gfc0812_op, libdst_parse_tag_hex,                  \
-        pwm_duty_cycle_reg)                                                                                            \
-    ROW(T, FIELD, "FAN_SELECT_REG", libdst_dev_fan_fan_eifs_tag_gfc0812_op, libdst_parse_tag_hex, ec_i2cs_fan_select)  \
-    ROW(T, APPEND, "SS2RPM", libdst_dev_ss2rpm_tag_gfc0812_op, ss2rpm, read_speed)
+    SELECTED_FAN_ELEMENTS(ROW, T, libdst_dev_fan_fan_name_tag_gfc0812_op, libdst_dev_fan_fan_tlbe_tag_gfc0812_op,      \
+                          libdst_dev_fan_fan_pdcr_tag_gfc0812_op, libdst_dev_fan_fan_eifs_tag_gfc0812_op,              \
+                          libdst_dev_ss2rpm_tag_gfc0812_op)
 DST_TABLE(dst_tag_fan_fan_gfc0812_op, xml_tag_parser_fan_fan_gfc0812_t, gfc0812_fan_info_t, GFC0812_ELEMENTS)
 
 #define HASKEL_9HV0812_ELEMENTS(ROW, T)                                                                                \
-    ROW(T, FIELD, "NAME", libdst_dev_fan_fan_name_tag_haskel_9hv0812_op, libdst_parse_tag_string, name)                \
-    ROW(T, FIELD, "TACH_LOW_BYTE_REG", libdst_dev_fan_fan_tlbe_tag_haskel_9hv0812_op, libdst_parse_tag_hex,            \
-        tach_low_byte_reg)                                                                                             \
-    ROW(T, FIELD, "PWM_DUTY_CYCLE_REG", libdst_dev_fan_fan_pdcr_tag_haskel_9hv0812_op, libdst_parse_tag_hex,           \
-        pwm_duty_cycle_reg)                                                                                            \
-    ROW(T, FIELD, "FAN_SELECT_REG", libdst_dev_fan_fan_eifs_tag_haskel_9hv0812_op, libdst_parse_tag_hex,               \
-        ec_i2cs_fan_select)                                                                                            \
-    ROW(T, APPEND, "SS2RPM", libdst_dev_ss2rpm_tag_haskel_9hv0812_op, ss2rpm, read_speed)
+    SELECTED_FAN_ELEMENTS(ROW, T, libdst_dev_fan_fan_name_tag_haskel_9hv0812_op,                                       \
+                          libdst_dev_fan_fan_tlbe_tag_haskel_9hv0812_op,                                               \
+                          libdst_dev_fan_fan_pdcr_tag_haskel_9hv0812_op,                                               \
+                          libdst_dev_fan_fan_eifs_tag_haskel_9hv0812_op, libdst_dev_ss2rpm_tag_haskel_9hv0812_op)
 DST_TABLE(dst_tag_fan_fan_haskel_9hv0812_op, xml_tag_parser_fan_fan_haskel_9hv0812_t, haskel_9hv0812_fan_info_t,
           HASKEL_9HV0812_ELEMENTS)
 

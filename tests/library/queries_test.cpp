@@ -146,16 +146,39 @@ struct by_fru {
     static void lose(auto &record) { record.fru_info = nullptr; }
 };
 
-template <class By, class Next, class Others> struct walk {
+// A query with the type of its records taken off.
+struct query {
+    std::function<void *(void *)> next;         // the call
+    std::function<void *(void *)> next_of_copy; // for a copy of a record
+    std::function<void *(void *)> next_of_lost; // for a copy that has lost its key; for zeros where null is given
+    std::function<void *(void *)> others;       // a walk over the same records and some that this one leaves out
+    std::function<uint32_t(void *)> key, place;
+
+    template <class Next> query(Next call) : query(call, call) {} // implicit, for short rows
+    template <class Next, class Others> query(Next call, Others all) : query(call, all, by_key()) {}
+    template <class Next, class Others, class By> query(Next call, Others all, By /*by*/) {
+        using record = std::remove_pointer_t<decltype(call(nullptr))>;
+        next = [=](void *one) { return call(static_cast<record *>(one)); };
+        next_of_copy = [=](void *one) {
+            record copy = *static_cast<record *>(one);
+            return call(&copy);
+        };
+        next_of_lost = [=](void *one) {
+            record copy = one ? *static_cast<record *>(one) : record{};
+            By::lose(copy);
+            return call(&copy);
+        };
+        others = [=](void *one) { return all(static_cast<record *>(one)); };
+        key = [](void *one) { return key_of(*static_cast<record *>(one)); };
+        place = [](void *one) { return static_cast<uint32_t>(By::place(*static_cast<record *>(one))); };
+    }
+};
+
+struct walk : query {
     std::string operation, empty; // who logs what of an empty list
-    Next next;                    // called with the previous record
     keys one, several;            // of a document with one record of a kind, and with several
     std::size_t repeated;         // records found where each element of the latter stands twice
-    Others others;                // a walk over the same records and some that this one leaves out
     std::string end = {};         // logged with every null result
-
-    using by = By;
-    using record = std::remove_pointer_t<decltype(std::declval<Next>()(nullptr))>;
 
     std::vector<log_line> end_log() const {
         std::vector<log_line> log;
@@ -165,34 +188,34 @@ template <class By, class Next, class Others> struct walk {
     }
 };
 
-auto filtered(const char *operation, const char *empty, auto next, const keys &one, const keys &several,
-              std::size_t repeated, auto others) {
-    return walk<by_key, decltype(next), decltype(others)>{operation, empty, next, one, several, repeated, others};
+walk filtered(const char *operation, const char *empty, const query &calls, const keys &one, const keys &several,
+              std::size_t repeated) {
+    return {calls, operation, empty, one, several, repeated};
 }
-auto plain(const char *operation, const char *empty, auto next, const keys &one, const keys &several) {
-    return filtered(operation, empty, next, one, several, 2 * several.size(), next);
+walk plain(const char *operation, const char *empty, const query &calls, const keys &one, const keys &several) {
+    return {calls, operation, empty, one, several, 2 * several.size()};
 }
-auto device(const char *operation, const char *empty, auto next, uint32_t id) {
-    return plain(operation, empty, next, {id + 5}, {id + 5, id + 3, id + 9});
+walk device(const char *operation, const char *empty, const query &calls, uint32_t id) {
+    return plain(operation, empty, calls, {id + 5}, {id + 5, id + 3, id + 9});
 }
-auto fru_of(const char *operation, auto next, uint32_t id, const char *empty = "empty fru list!") {
-    return filtered(operation, empty, next, {id}, {id, id + 1}, 4, libchs_fru_info_get_next);
+walk fru_of(const char *operation, fru_info_t *(*next)(fru_info_t *), uint32_t id,
+            const char *empty = "empty fru list!") {
+    return {{next, libchs_fru_info_get_next}, operation, empty, {id}, {id, id + 1}, 4};
 }
-// A query whose first argument stays the same.
-template <class R> auto with(uint32_t fixed, R *(*query)(uint32_t, R *)) {
-    return [=](R *previous) { return query(fixed, previous); };
-}
-template <class R>
-auto on_fru(const char *operation, const char *empty, R *(*query)(uint32_t, R *), uint32_t fru_id, uint32_t id,
-            R *(*others)(R *)) {
-    const auto next = with(fru_id, query);
-    return walk<by_fru, decltype(next), decltype(others)>{operation,        empty, next,  {id + 5},
-                                                          {id + 5, id + 9}, 4,     others};
-}
-auto relative(const char *operation, auto next, const keys &one, const keys &several) {
-    auto row = filtered(operation, "empty fru list!", next, one, several, 4, libchs_fru_info_get_next);
+walk relative(const char *operation, fru_info_t *(*next)(fru_info_t *), const keys &one, const keys &several) {
+    walk row{{next, libchs_fru_info_get_next}, operation, "empty fru list!", one, several, 4};
     row.end = "could not find the fru info for the parent!";
     return row;
+}
+// A query whose first argument stays the same.
+template <class R> auto with(uint32_t fixed, R *(*call)(uint32_t, R *)) {
+    return [=](R *previous) { return call(fixed, previous); };
+}
+walk on_fru(const char *operation, const char *empty, const query &calls, uint32_t id) {
+    return {calls, operation, empty, {id + 5}, {id + 5, id + 9}, 4};
+}
+template <class R> query of_fru(uint32_t fru_id, R *(*call)(uint32_t, R *), R *(*all)(R *)) {
+    return {with(fru_id, call), all, by_fru()};
 }
 
 // Ports of either PIC.
@@ -203,122 +226,136 @@ bcm_port_info_t *next_port(bcm_port_info_t *port) {
     return next ? next : libchs_bcm_port_info_get_next_by_picid(33, nullptr);
 }
 
-fru_info_t fpc_0{}; // a copy of the key of a FRU, in place of the model's record
-
-void each_walk(auto check) {
+std::vector<walk> walks() {
     const char *const i2c = "Empty i2c device list!";
-    check(plain("i2c_dev_info_get_next_priv", i2c, libchs_i2c_dev_info_get_next, {11}, {11, 13, 12}));
     const auto fpc_i2c = [](i2c_dev_info_t *at) { return libchs_i2c_dev_info_get_next_by_type(at, I2C_TYPE_FPC); };
-    check(
-        filtered("i2c_dev_info_get_next_by_type_priv", i2c, fpc_i2c, {11}, {11, 12}, 4, libchs_i2c_dev_info_get_next));
-
-    check(device("fan_info_get_next_priv", "empty fan list!", libchs_fan_info_get_next, 100));
-    check(device("pem_info_get_next_priv", "empty pem list!", libchs_pem_info_get_next, 200));
-    check(device("pic_info_get_next_priv", "empty pic list!", libchs_pic_info_get_next, 300));
-    check(device("fpc_info_get_next_priv", "empty fpc list!", libchs_fpc_info_get_next, 400));
-    check(device("sib_info_get_next_priv", "empty sib list!", libchs_sib_info_get_next, 500));
-    check(device("fpm_info_get_next_priv", "empty fpm list!", libchs_fpm_info_get_next, 600));
-    check(device("ftc_info_get_next_priv", "empty ftc list!", libchs_ftc_info_get_next, 700));
-    check(device("cb_info_get_next_priv", "empty cb list!", libchs_cb_info_get_next, 800));
-    check(device("tmpsnr_info_get_next_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_next, 900));
-    check(device("voltsnr_info_get_next_priv", "empty volt sensor list!", libchs_voltsnr_info_get_next, 1000));
-    check(device("led_info_get_next_priv", "empty led list!", libchs_led_info_get_next, 1100));
-    check(device("lcd_info_get_next_priv", "empty lcd list!", libchs_lcd_info_get_next, 1200));
-    check(device("btn_info_get_next_priv", "empty btn list!", libchs_btn_info_get_next, 1300));
-    check(device("tib_info_get_next_priv", "empty tib list!\\n", libchs_tib_info_get_next, 1400));
-
-    check(plain("asic_info_get_next_priv", "empty asic list!", libchs_asic_info_get_next, {30}, {33, 30, 31, 32}));
     const auto asic_30 = with(30, libchs_bcm_port_info_get_next);
-    check(filtered("bcm_port_info_get_next_priv", "empty asic list!", asic_30, {5}, {5, 3, 9}, 6, next_port));
     const auto pic_32 = with(32, libchs_bcm_port_info_get_next_by_picid);
-    check(
-        filtered("bcm_port_info_get_next_by_picid_priv", "empty asic list!", pic_32, {5}, {5, 9, 6, 8}, 16, next_port));
-
     const char *const no_optics = "empty optics list!";
     const auto optics = libchs_optics_info_get_next;
-    check(plain("optics_info_get_next_priv", no_optics, optics, {10}, {10, 20, 11, 21, 12}));
     const auto port_1 = with(1, libchs_optics_info_get_next_by_port_no);
-    check(filtered("optics_info_get_next_by_portno_priv", no_optics, port_1, {10}, {10, 11, 12}, 6, optics));
     const auto slot_0 = with(0, libchs_optics_info_get_next_by_slotno);
-    check(filtered("optics_info_get_next_by_slotno_priv", no_optics, slot_0, {10}, {10, 20}, 4, optics));
-
     const auto models = [](const fru_model_info_t *at) { return libdst_fru_model_info_get_next(at); };
-    check(plain("fru_model_info_get_next_priv", "empty fru model list!", models, {3}, {3, 1, 2}));
     const auto fans = [](const fru_model_info_t *at) {
         return libdst_fru_model_info_get_next_by_type(at, FRU_TYPE_FAN);
     };
-    check(filtered("fru_model_info_get_next_by_type_priv", "empty fru model list!", fans, {3}, {3, 2}, 4, models));
-    check(plain("chassis_model_info_get_next_priv", "empty chassis model list!", libdst_chassis_model_info_get_next,
-                {72}, {72, 71}));
-    check(filtered("epm_data_get_next_priv", "empty epm list!", libchs_epm_data_get_next, {1}, {1, 2}, 2,
-                   libchs_epm_data_get_next));
-
-    check(plain("fru_info_get_next_priv", "empty fru list!", libchs_fru_info_get_next,
-                {1, 40, 50, 60, 130, 140, 150, 160, 170, 200},
-                {1, 2, 40, 41, 50, 51, 60, 61, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}));
-    check(fru_of("fru_info_get_next_by_fan_priv", libchs_fru_info_get_next_by_fan, 40));
-    check(fru_of("fru_info_get_next_by_pem_priv", libchs_fru_info_get_next_by_pem, 50));
-    check(fru_of("fru_info_get_next_by_pic_priv", libchs_fru_info_get_next_by_pic, 60));
-    check(fru_of("fru_info_get_next_by_fpc_priv", libchs_fru_info_get_next_by_fpc, 130));
-    check(fru_of("fru_info_get_next_by_sib_priv", libchs_fru_info_get_next_by_sib, 140));
-    check(fru_of("fru_info_get_next_by_fpm_priv", libchs_fru_info_get_next_by_fpm, 150));
-    check(fru_of("fru_info_get_next_by_ftc_priv", libchs_fru_info_get_next_by_ftc, 160));
-    check(fru_of("fru_info_get_next_by_cb_priv", libchs_fru_info_get_next_by_cb, 170));
-    check(fru_of("fru_info_get_next_by_tib_priv", libchs_fru_info_get_next_by_tib, 200, "empty fru list!\\n"));
-    check(relative("fru_info_get_next_parent_priv", libchs_fru_info_get_next_parent, {1}, {1, 2}));
+    static fru_info_t fpc_0; // the key of a FRU, in place of the model's record
     fpc_0.id = 130;
     const auto children = [](fru_info_t *at) { return libchs_fru_info_get_next_child(&fpc_0, at); };
-    check(relative("fru_info_get_next_child_priv", children, {60}, {60, 61}));
-
-    check(on_fru("fru_fan_info_get_next_priv", "empty fan list!", libchs_fru_fan_info_get_next, 40, 100,
-                 libchs_fan_info_get_next));
-    check(on_fru("fru_pem_info_get_next_priv", "empty pem list!", libchs_fru_pem_info_get_next, 50, 200,
-                 libchs_pem_info_get_next));
-    check(on_fru("fru_pic_info_get_next_priv", "empty pic list!", libchs_fru_pic_info_get_next, 60, 300,
-                 libchs_pic_info_get_next));
-    check(on_fru("fru_fpc_info_get_next_priv", "empty fpc list!", libchs_fru_fpc_info_get_next, 130, 400,
-                 libchs_fpc_info_get_next));
-    check(on_fru("fru_sib_info_get_next_priv", "empty sib list!", libchs_fru_sib_info_get_next, 140, 500,
-                 libchs_sib_info_get_next));
-    check(on_fru("fru_fpm_info_get_next_priv", "empty fpm list!", libchs_fru_fpm_info_get_next, 150, 600,
-                 libchs_fpm_info_get_next));
-    check(on_fru("fru_ftc_info_get_next_priv", "empty ftc list!", libchs_fru_ftc_info_get_next, 160, 700,
-                 libchs_ftc_info_get_next));
-    check(on_fru("fru_cb_info_get_next_priv", "empty cb list!", libchs_fru_cb_info_get_next, 170, 800,
-                 libchs_cb_info_get_next));
-    check(on_fru("fru_tib_info_get_next_priv", "empty tib list!\\n", libchs_fru_tib_info_get_next, 200, 1400,
-                 libchs_tib_info_get_next));
+    return {
+        plain("i2c_dev_info_get_next_priv", i2c, libchs_i2c_dev_info_get_next, {11}, {11, 13, 12}),
+        filtered("i2c_dev_info_get_next_by_type_priv", i2c, {fpc_i2c, libchs_i2c_dev_info_get_next}, {11}, {11, 12}, 4),
+        device("fan_info_get_next_priv", "empty fan list!", libchs_fan_info_get_next, 100),
+        device("pem_info_get_next_priv", "empty pem list!", libchs_pem_info_get_next, 200),
+        device("pic_info_get_next_priv", "empty pic list!", libchs_pic_info_get_next, 300),
+        device("fpc_info_get_next_priv", "empty fpc list!", libchs_fpc_info_get_next, 400),
+        device("sib_info_get_next_priv", "empty sib list!", libchs_sib_info_get_next, 500),
+        device("fpm_info_get_next_priv", "empty fpm list!", libchs_fpm_info_get_next, 600),
+        device("ftc_info_get_next_priv", "empty ftc list!", libchs_ftc_info_get_next, 700),
+        device("cb_info_get_next_priv", "empty cb list!", libchs_cb_info_get_next, 800),
+        device("tmpsnr_info_get_next_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_next, 900),
+        device("voltsnr_info_get_next_priv", "empty volt sensor list!", libchs_voltsnr_info_get_next, 1000),
+        device("led_info_get_next_priv", "empty led list!", libchs_led_info_get_next, 1100),
+        device("lcd_info_get_next_priv", "empty lcd list!", libchs_lcd_info_get_next, 1200),
+        device("btn_info_get_next_priv", "empty btn list!", libchs_btn_info_get_next, 1300),
+        device("tib_info_get_next_priv", "empty tib list!\\n", libchs_tib_info_get_next, 1400),
+        plain("asic_info_get_next_priv", "empty asic list!", libchs_asic_info_get_next, {30}, {33, 30, 31, 32}),
+        filtered("bcm_port_info_get_next_priv", "empty asic list!", {asic_30, next_port}, {5}, {5, 3, 9}, 6),
+        filtered("bcm_port_info_get_next_by_picid_priv", "empty asic list!", {pic_32, next_port}, {5}, {5, 9, 6, 8},
+                 16),
+        plain("optics_info_get_next_priv", no_optics, optics, {10}, {10, 20, 11, 21, 12}),
+        filtered("optics_info_get_next_by_portno_priv", no_optics, {port_1, optics}, {10}, {10, 11, 12}, 6),
+        filtered("optics_info_get_next_by_slotno_priv", no_optics, {slot_0, optics}, {10}, {10, 20}, 4),
+        plain("fru_model_info_get_next_priv", "empty fru model list!", models, {3}, {3, 1, 2}),
+        filtered("fru_model_info_get_next_by_type_priv", "empty fru model list!", {fans, models}, {3}, {3, 2}, 4),
+        plain("chassis_model_info_get_next_priv", "empty chassis model list!", libdst_chassis_model_info_get_next, {72},
+              {72, 71}),
+        filtered("epm_data_get_next_priv", "empty epm list!", {libchs_epm_data_get_next, libchs_epm_data_get_next}, {1},
+                 {1, 2}, 2),
+        plain("fru_info_get_next_priv", "empty fru list!", libchs_fru_info_get_next,
+              {1, 40, 50, 60, 130, 140, 150, 160, 170, 200},
+              {1, 2, 40, 41, 50, 51, 60, 61, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}),
+        fru_of("fru_info_get_next_by_fan_priv", libchs_fru_info_get_next_by_fan, 40),
+        fru_of("fru_info_get_next_by_pem_priv", libchs_fru_info_get_next_by_pem, 50),
+        fru_of("fru_info_get_next_by_pic_priv", libchs_fru_info_get_next_by_pic, 60),
+        fru_of("fru_info_get_next_by_fpc_priv", libchs_fru_info_get_next_by_fpc, 130),
+        fru_of("fru_info_get_next_by_sib_priv", libchs_fru_info_get_next_by_sib, 140),
+        fru_of("fru_info_get_next_by_fpm_priv", libchs_fru_info_get_next_by_fpm, 150),
+        fru_of("fru_info_get_next_by_ftc_priv", libchs_fru_info_get_next_by_ftc, 160),
+        fru_of("fru_info_get_next_by_cb_priv", libchs_fru_info_get_next_by_cb, 170),
+        fru_of("fru_info_get_next_by_tib_priv", libchs_fru_info_get_next_by_tib, 200, "empty fru list!\\n"),
+        relative("fru_info_get_next_parent_priv", libchs_fru_info_get_next_parent, {1}, {1, 2}),
+        relative("fru_info_get_next_child_priv", children, {60}, {60, 61}),
+        on_fru("fru_fan_info_get_next_priv", "empty fan list!",
+               of_fru(40, libchs_fru_fan_info_get_next, libchs_fan_info_get_next), 100),
+        on_fru("fru_pem_info_get_next_priv", "empty pem list!",
+               of_fru(50, libchs_fru_pem_info_get_next, libchs_pem_info_get_next), 200),
+        on_fru("fru_pic_info_get_next_priv", "empty pic list!",
+               of_fru(60, libchs_fru_pic_info_get_next, libchs_pic_info_get_next), 300),
+        on_fru("fru_fpc_info_get_next_priv", "empty fpc list!",
+               of_fru(130, libchs_fru_fpc_info_get_next, libchs_fpc_info_get_next), 400),
+        on_fru("fru_sib_info_get_next_priv", "empty sib list!",
+               of_fru(140, libchs_fru_sib_info_get_next, libchs_sib_info_get_next), 500),
+        on_fru("fru_fpm_info_get_next_priv", "empty fpm list!",
+               of_fru(150, libchs_fru_fpm_info_get_next, libchs_fpm_info_get_next), 600),
+        on_fru("fru_ftc_info_get_next_priv", "empty ftc list!",
+               of_fru(160, libchs_fru_ftc_info_get_next, libchs_ftc_info_get_next), 700),
+        on_fru("fru_cb_info_get_next_priv", "empty cb list!",
+               of_fru(170, libchs_fru_cb_info_get_next, libchs_cb_info_get_next), 800),
+        on_fru("fru_tib_info_get_next_priv", "empty tib list!\\n",
+               of_fru(200, libchs_fru_tib_info_get_next, libchs_tib_info_get_next), 1400),
+    };
 }
 
-template <class Find, class Next> struct lookup {
+struct lookup {
     std::string operation, empty;
-    Find find;
-    uint32_t known, unknown; // keys
-    Next next;               // over the list that is looked through
+    uint32_t known, unknown;                    // keys
+    std::function<void *(uint32_t)> find = {};  // the query
+    std::function<void *(uint32_t)> first = {}; // the first record with a key
+    std::function<uint32_t(void *)> key = {};
 };
-template <class Find, class Next>
-lookup(const char *, const char *, Find, uint32_t, uint32_t, Next) -> lookup<Find, Next>;
 
-void each_lookup(auto check) {
-    check(lookup{"i2c_dev_info_by_id_priv", "Empty i2c device list!", libchs_i2c_dev_info_by_id, 12, 14,
-                 libchs_i2c_dev_info_get_next});
-    check(lookup{"tmpsnr_info_get_by_id_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_by_id, 909, 1005,
-                 libchs_tmpsnr_info_get_next});
-    check(lookup{"voltsnr_info_get_by_id_priv", "empty volt sensor list!", libchs_voltsnr_info_get_by_id, 1009, 905,
-                 libchs_voltsnr_info_get_next});
-    check(lookup{"led_info_get_by_id_priv", "empty led/lcd list!", libchs_led_info_get_by_id, 1109, 1205,
-                 libchs_led_info_get_next});
-    check(lookup{"lcd_info_get_by_id_priv", "empty lcd list!", libchs_lcd_info_get_by_id, 1209, 1105,
-                 libchs_lcd_info_get_next});
-    check(lookup{"btn_info_get_by_id_priv", "empty button list!", libchs_btn_info_get_by_id, 1309, 0,
-                 libchs_btn_info_get_next});
-    check(lookup{"fru_info_get_by_id_priv", "empty fru list!", libchs_fru_info_get_by_id, 201, 3,
-                 libchs_fru_info_get_next});
-    check(lookup{"bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 108,
-                 next_port}); // 108: the front-panel port of port 8
-    const auto by_type = [](uint32_t type) { return libchs_epm_data_get_by_type(static_cast<cepm_type_t>(type)); };
-    check(lookup{"epm_data_get_by_type_priv", "empty epm list!", by_type, EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN,
-                 libchs_epm_data_get_next});
+// `next` walks the list that `find` looks through.
+template <class R>
+lookup by_key_in(const char *operation, const char *empty, R *(*find)(uint32_t), uint32_t known, uint32_t unknown,
+                 R *(*next)(R *)) {
+    lookup row{operation, empty, known, unknown};
+    row.find = find;
+    row.first = [next](uint32_t key) -> R * {
+        for (R *at = next(nullptr); at; at = next(at))
+            if (key_of(*at) == key)
+                return at;
+        return nullptr;
+    };
+    row.key = [](void *one) { return key_of(*static_cast<R *>(one)); };
+    return row;
+}
+
+std::vector<lookup> lookups() {
+    cepm_data_t *(*const epm_by_type)(uint32_t) = [](uint32_t type) {
+        return libchs_epm_data_get_by_type(static_cast<cepm_type_t>(type));
+    };
+    return {
+        by_key_in("i2c_dev_info_by_id_priv", "Empty i2c device list!", libchs_i2c_dev_info_by_id, 12, 14,
+                  libchs_i2c_dev_info_get_next),
+        by_key_in("tmpsnr_info_get_by_id_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_by_id, 909, 1005,
+                  libchs_tmpsnr_info_get_next),
+        by_key_in("voltsnr_info_get_by_id_priv", "empty volt sensor list!", libchs_voltsnr_info_get_by_id, 1009, 905,
+                  libchs_voltsnr_info_get_next),
+        by_key_in("led_info_get_by_id_priv", "empty led/lcd list!", libchs_led_info_get_by_id, 1109, 1205,
+                  libchs_led_info_get_next),
+        by_key_in("lcd_info_get_by_id_priv", "empty lcd list!", libchs_lcd_info_get_by_id, 1209, 1105,
+                  libchs_lcd_info_get_next),
+        by_key_in("btn_info_get_by_id_priv", "empty button list!", libchs_btn_info_get_by_id, 1309, 0,
+                  libchs_btn_info_get_next),
+        by_key_in("fru_info_get_by_id_priv", "empty fru list!", libchs_fru_info_get_by_id, 201, 3,
+                  libchs_fru_info_get_next),
+        // 108: the front-panel port of port 8
+        by_key_in("bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 108,
+                  next_port),
+        by_key_in("epm_data_get_by_type_priv", "empty epm list!", epm_by_type, EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN,
+                  libchs_epm_data_get_next),
+    };
 }
 
 // Tests
@@ -333,26 +370,22 @@ class Queries : public testing::Test {
 
 // Every query with nothing to find: null or -1, with the line of an empty list, or silently.
 void expect_nothing(bool logged) {
-    const auto log_of = [logged](const auto &row) {
-        std::vector<log_line> log;
-        if (logged)
-            log.push_back({LOG_ERR, row.operation + ": " + row.empty});
-        return log;
+    const auto expect_line = [logged](const auto &row) {
+        EXPECT_EQ(texts_of(take_log(), LOG_ERR), logged ? lines{row.operation + ": " + row.empty} : lines{});
     };
     take_log();
-    each_walk([&](const auto &row) {
+    for (const walk &row : walks()) {
         SCOPED_TRACE(row.operation);
         EXPECT_EQ(row.next(nullptr), nullptr);
-        EXPECT_EQ(take_log(), log_of(row));
-        typename std::decay_t<decltype(row)>::record any{};
-        EXPECT_EQ(row.next(&any), nullptr);
-        EXPECT_EQ(take_log(), log_of(row));
-    });
-    each_lookup([&](const auto &row) {
+        expect_line(row);
+        EXPECT_EQ(row.next_of_lost(nullptr), nullptr);
+        expect_line(row);
+    }
+    for (const lookup &row : lookups()) {
         SCOPED_TRACE(row.operation);
         EXPECT_EQ(row.find(row.known), nullptr);
-        EXPECT_EQ(take_log(), log_of(row));
-    });
+        expect_line(row);
+    }
     uint32_t id = 77;
     EXPECT_EQ(libdst_fru_info_get_id_by_type_slotno(FRU_TYPE_CB, 0, &id), -1);
     EXPECT_EQ(id, 77U);
@@ -393,87 +426,73 @@ TEST_F(Queries, AnEmptySlotAnswersForItsOperation) {
     chassis_priv_ops = whole;
 }
 
-keys keys_of(const auto &records) {
-    keys found;
-    for (const auto *record : records)
-        found.push_back(key_of(*record));
-    return found;
-}
+// What the walk finds, and what follows copies, unknown records and records that the walk leaves out.
+void expect_walk(const walk &row, const keys &expected) {
+    SCOPED_TRACE(row.operation);
+    take_log();
+    const std::vector<void *> found = all_of(row.next);
+    EXPECT_EQ(take_log(), row.end_log());
+    keys found_keys;
+    for (void *record : found)
+        found_keys.push_back(row.key(record));
+    EXPECT_EQ(found_keys, expected);
 
-// What follows copies of the records, unknown records and records that the walk leaves out.
-void expect_positions(const auto &row, const auto &found) {
-    using row_t = std::decay_t<decltype(row)>;
-    using by = typename row_t::by;
-    const auto expect_next = [&](auto *argument, auto *expected, const char *what) {
-        take_log();
-        EXPECT_EQ(row.next(argument), expected) << what;
-        EXPECT_EQ(take_log(), expected ? std::vector<log_line>{} : row.end_log()) << what;
+    const auto expect = [&](void *result, void *wanted, const char *what) {
+        EXPECT_EQ(result, wanted) << what;
+        EXPECT_EQ(take_log(), wanted ? std::vector<log_line>{} : row.end_log()) << what;
     };
-    for (const auto *record : found) {
-        auto copy = *record;
-        const auto first = std::find_if(found.begin(), found.end(),
-                                        [&](const auto *one) { return by::place(*one) == by::place(copy); });
-        expect_next(&copy, first + 1 == found.end() ? nullptr : *(first + 1), "a copy");
-        by::lose(copy);
-        expect_next(&copy, decltype(row.next(nullptr)){}, "an unknown record");
+    for (void *record : found) {
+        const auto first =
+            std::find_if(found.begin(), found.end(), [&](void *one) { return row.place(one) == row.place(record); });
+        expect(row.next_of_copy(record), first + 1 == found.end() ? nullptr : *(first + 1), "a copy");
+        expect(row.next_of_lost(record), nullptr, "an unknown record");
     }
-    for (auto *other : all_of(row.others))
+    const std::vector<void *> others = all_of(row.others);
+    take_log();
+    for (void *other : others)
         if (std::find(found.begin(), found.end(), other) == found.end())
-            expect_next(other, decltype(row.next(nullptr)){}, "a record left out");
+            expect(row.next(other), nullptr, "a record left out");
 }
 
 TEST_F(Queries, WalkOneRecord) {
     ASSERT_NO_FATAL_FAILURE(load_description(false));
-    each_walk([](const auto &row) {
-        SCOPED_TRACE(row.operation);
-        take_log();
-        const auto found = all_of(row.next);
-        EXPECT_EQ(take_log(), row.end_log());
-        EXPECT_EQ(keys_of(found), row.one);
-        expect_positions(row, found);
-    });
+    for (const walk &row : walks())
+        expect_walk(row, row.one);
 }
 
 TEST_F(Queries, WalkSeveralRecords) {
     ASSERT_NO_FATAL_FAILURE(load_description(true));
-    each_walk([](const auto &row) {
-        SCOPED_TRACE(row.operation);
-        take_log();
-        const auto found = all_of(row.next);
-        EXPECT_EQ(take_log(), row.end_log());
-        EXPECT_EQ(keys_of(found), row.several);
-        expect_positions(row, found);
-    });
-    each_lookup([](const auto &row) {
-        SCOPED_TRACE(row.operation);
-        take_log();
-        const auto *found = row.find(row.known);
-        ASSERT_NE(found, nullptr);
-        EXPECT_EQ(key_of(*found), row.known);
-        EXPECT_EQ(row.find(row.unknown), nullptr);
-        EXPECT_EQ(take_log().size(), 0U);
-    });
+    for (const walk &row : walks())
+        expect_walk(row, row.several);
 }
 
 TEST_F(Queries, WalksOverRepeatedKeysEnd) {
     ASSERT_NO_FATAL_FAILURE(load_description(true, 2));
-    each_walk([](const auto &row) {
+    for (const walk &row : walks()) {
         SCOPED_TRACE(row.operation);
-        auto found = all_of(row.next);
+        std::vector<void *> found = all_of(row.next);
         ASSERT_EQ(found.size(), row.repeated);
-        auto copy = *found[1];
-        EXPECT_EQ(row.next(&copy), found[1]) << "a copy of the second stands for the first";
+        EXPECT_EQ(row.next_of_copy(found[1]), found[1]) << "a copy of the second stands for the first";
         std::sort(found.begin(), found.end());
         EXPECT_EQ(std::unique(found.begin(), found.end()), found.end()) << "each once";
-    });
-    each_lookup([](const auto &row) {
-        SCOPED_TRACE(row.operation);
-        const auto all = all_of(row.next);
-        const auto first =
-            std::find_if(all.begin(), all.end(), [&](const auto *one) { return key_of(*one) == row.known; });
-        ASSERT_NE(first, all.end());
-        EXPECT_EQ(row.find(row.known), *first);
-    });
+    }
+}
+
+TEST_F(Queries, LookUpTheFirstWithTheKey) {
+    for (int copies : {1, 2}) {
+        ASSERT_NO_FATAL_FAILURE(load_description(true, copies));
+        take_log();
+        for (const lookup &row : lookups()) {
+            SCOPED_TRACE(row.operation);
+            void *found = row.find(row.known);
+            ASSERT_NE(found, nullptr);
+            EXPECT_EQ(row.key(found), row.known);
+            EXPECT_EQ(row.find(row.unknown), nullptr);
+            EXPECT_EQ(take_log().size(), 0U);
+            EXPECT_EQ(found, row.first(row.known));
+            take_log();
+        }
+    }
 }
 
 // What the rows do not show
@@ -537,7 +556,10 @@ TEST_F(Queries, TheFruTree) {
     take_log();
     fru_info_t *chassis = libchs_fru_info_get_by_id(1);
     const auto children_of = [](fru_info_t *parent) {
-        return keys_of(all_of([parent](fru_info_t *at) { return libchs_fru_info_get_next_child(parent, at); }));
+        keys ids;
+        for (auto *fru : all_of([parent](fru_info_t *at) { return libchs_fru_info_get_next_child(parent, at); }))
+            ids.push_back(fru->id);
+        return ids;
     };
     EXPECT_EQ(children_of(chassis), (keys{40, 41, 50, 51, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}));
     EXPECT_EQ(children_of(libchs_fru_info_get_by_id(60)), keys{});

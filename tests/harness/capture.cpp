@@ -3,11 +3,13 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <sstream>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
 
+static std::mutex mutex;
 static std::vector<log_line> captured;
 
 extern "C" {
@@ -20,6 +22,7 @@ void vsyslog(int priority, const char *format, va_list arguments) {
     for (const char *c = text; *c; ++c)
         line += *c == '\n' ? std::string("\\n") : std::string(1, *c);
     std::free(text);
+    const std::lock_guard lock(mutex);
     captured.push_back({priority, line});
 }
 
@@ -32,7 +35,10 @@ void syslog(int priority, const char *format, ...) {
 
 } // extern "C"
 
-std::vector<log_line> take_log() { return std::exchange(captured, {}); }
+std::vector<log_line> take_log() {
+    const std::lock_guard lock(mutex);
+    return std::exchange(captured, {});
+}
 
 std::vector<std::string> texts_of(const std::vector<log_line> &log, int priority) {
     std::vector<std::string> texts;

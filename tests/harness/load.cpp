@@ -1,6 +1,7 @@
 #include "load.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "chsinfo/libdst.h"
 
@@ -22,6 +23,13 @@ load_result load(const std::string &document) {
                        document.starts_with("<chassis") || document.starts_with("<!");
     write_platform_file("chassis_dst_schema.xsd", read_file(DST_TEST_DATA "/permissive.xsd"));
     write_platform_file("chassis_dst.xml", whole ? document : "<CHASSIS>\n" + document + "</CHASSIS>\n");
+    return load();
+}
+
+load_result load_example(const std::string &name) {
+    for (const auto &file : std::filesystem::directory_iterator(DST_SHARE "/examples/" + name))
+        write_platform_file(file.path().filename(), read_file(file.path()));
+    write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
     return load();
 }
 

@@ -23,5 +23,8 @@ load_result load();
 // The same with this document and a schema that lets everything through. A fragment becomes the content of CHASSIS.
 load_result load(const std::string &document);
 
+// The same with a shipped example, against the shipped schema.
+load_result load_example(const std::string &name);
+
 // Whether every byte of `chs_info` is zero.
 bool model_is_zero();

@@ -240,10 +240,7 @@ TEST_F(Load, TakesWhatXIncludeBringsIn) {
 TEST_F(Load, TheShippedExamplesLoadAsTheyRead) {
     for (const auto &example : std::filesystem::directory_iterator(DST_SHARE "/examples")) {
         SCOPED_TRACE(example.path());
-        for (const auto &file : std::filesystem::directory_iterator(example))
-            write_platform_file(file.path().filename(), read_file(file.path()));
-        write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
-        const load_result result = load();
+        const load_result result = load_example(example.path().filename());
         EXPECT_EQ(result.status, 0) << result.err;
         EXPECT_EQ(texts_of(result.log, LOG_ERR), lines{});
         const auto dump = result.dump();

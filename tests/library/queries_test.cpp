@@ -7,6 +7,7 @@
 
 #include "../harness/append.h"
 #include "../harness/load.h"
+#include "../harness/walk.h"
 #include "chsinfo/libdst_priv.h"
 
 namespace {
@@ -129,13 +130,6 @@ void lose_key(auto &record) { record.id = 99; }
 void lose_key(optics_info_t &record) { record.pic_id = 99; }
 void lose_key(cepm_data_t &record) { record.cepm_type = EPM_TYPE_MAX; }
 
-auto all_of(auto next) {
-    std::vector<decltype(next(nullptr))> found;
-    for (auto *at = next(nullptr); at && found.size() < 1000; at = next(at))
-        found.push_back(at);
-    return found;
-}
-
 // How a walk finds the record passed: by its key, or by its FRU and controller.
 struct by_key {
     static auto place(const auto &record) { return key_of(record); }
@@ -206,10 +200,6 @@ walk relative(const char *operation, fru_info_t *(*next)(fru_info_t *), const ke
     walk row{{next, libchs_fru_info_get_next}, operation, "empty fru list!", one, several, 4};
     row.end = "could not find the fru info for the parent!";
     return row;
-}
-// A query whose first argument stays the same.
-template <class R> auto with(uint32_t fixed, R *(*call)(uint32_t, R *)) {
-    return [=](R *previous) { return call(fixed, previous); };
 }
 walk on_fru(const char *operation, const char *empty, const query &calls, uint32_t id) {
     return {calls, operation, empty, {id + 5}, {id + 5, id + 9}, 4};

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs into a scratch prefix and uses the result as a newcomer would: pkg-config, a C client, dstctl.
+# Installs into a scratch prefix and uses the result as a newcomer would: pkg-config, clients in C and C++, dstctl.
 # Usage: check_install.sh SOURCE_DIR BUILD_DIR LIBRARY_PATH [COMPILER FLAG...]
 set -euo pipefail
 source_dir=$1
@@ -10,6 +10,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 prefix=$scratch/prefix
 examples=$prefix/share/libdst/examples
+documents=$prefix/share/doc/libdst/examples
 fail() {
     echo "check_install: $*"
     exit 1
@@ -22,17 +23,35 @@ for file in lib/libdst.so.1 lib/libdst.so lib/pkgconfig/libdst.pc include/chsinf
 done
 
 export PKG_CONFIG_PATH=$prefix/lib/pkgconfig LD_LIBRARY_PATH=$prefix/lib:$library_path
-# shellcheck disable=SC2046 # pkg-config prints words
-gcc "$@" -std=c11 -Wall -Wextra -Wpedantic -Werror -o "$scratch/client" "$source_dir/tests/install/client.c" \
-    $(pkg-config --cflags --libs libdst) -Wl,--allow-shlib-undefined
-# The folder of the description is the client's own, in a mount namespace.
-# shellcheck disable=SC2016 # expanded by the inner shell
-client_output=$(unshare --mount $([ "$(id -u)" = 0 ] || echo --map-root-user) bash -ec '
-    mount -t tmpfs tmpfs /var
-    mkdir /var/platform
-    cp "$1"/small/*.xml "$1"/../chassis_dst_schema.xsd /var/platform
-    "$2"' inner "$examples" "$scratch/client")
+warnings=(-Wall -Wextra -Wpedantic -Werror)
+read -ra library < <(pkg-config --cflags --libs libdst)
+library+=("-Wl,--allow-shlib-undefined")
+gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/client" "$source_dir/tests/install/client.c" "${library[@]}"
+gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/queries" "$source_dir/tests/install/queries.c" "${library[@]}"
+gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/inventory_c" "$documents/inventory.c" "${library[@]}"
+g++ "$@" -std=c++20 "${warnings[@]}" -o "$scratch/inventory_cpp" "$documents/inventory.cpp" "${library[@]}"
+
+# run CLIENT EXAMPLE. The folder of the description is the client's own, in a mount namespace.
+run() {
+    # shellcheck disable=SC2016,SC2046 # expanded by the inner shell; no word at all for root
+    unshare --mount $([ "$(id -u)" = 0 ] || echo --map-root-user) bash -ec '
+        mount -t tmpfs tmpfs /var
+        mkdir /var/platform
+        cp "$1"/*.xml "$2" /var/platform
+        "$3"' inner "$examples/$2" "$prefix/share/libdst/chassis_dst_schema.xsd" "$scratch/$1"
+}
+# prints CLIENT EXAMPLE EXPECTED: what the client prints after the model
+prints() {
+    diff "$source_dir/tests/install/$3" <(run "$1" "$2" | sed '1,/^<\/CHASSIS>$/d') || fail "$1 on $2"
+}
+client_output=$(run client small)
 diff "$source_dir/tests/install/client.expected" <(grep '^client: ' <<<"$client_output") || fail "the client's output"
+prints queries modular queries.expected
+prints inventory_c fixed-1u inventory.expected
+prints inventory_cpp fixed-1u inventory.expected
+for query in $(grep -oE '\blib(chs|dst)_[a-z0-9_]+,' "$source_dir/chsinfo/chassis_ops.def" | tr -d ,); do
+    grep -q "$query(" "$source_dir/tests/install/queries.c" || fail "queries.c does not call $query()"
+done
 
 # dstctl WANTED_STATUS ARGUMENT...: leaves its output in $scratch/out and $scratch/err
 dstctl() {

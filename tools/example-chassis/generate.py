@@ -1,12 +1,18 @@
 #!/usr/bin/env python3
-"""Writes the example of a modular chassis: one file for each kind of board, which the main document includes."""
+"""Writes the example chassis: the XML form of the modular one, a file for each kind of board, which the main document
+includes; and the configuration trees of the modular and the fixed one."""
 
 import argparse
 import pathlib
 import sys
 from xml.etree import ElementTree
 
-DIRECTORY = pathlib.Path(__file__).resolve().parents[2] / "share/libdst/examples/modular"
+sys.dont_write_bytecode = True  # The modules are in the source tree.
+
+import config_only
+import config_tree
+
+EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "share/libdst/examples"
 XINCLUDE = "http://www.w3.org/2001/XInclude"
 
 CHASSIS_FRU = 1
@@ -294,7 +300,8 @@ def include(file, children_of):
     return element(f"{{{XINCLUDE}}}include", {"href": file, "xpointer": f"xpointer(/CHASSIS{children_of})"})
 
 
-def main_document(parts):
+def main_document(parts, i2c, frus, others):
+    """The lists of the chassis start with the chassis itself; what is given follows."""
     devices = [device for part in parts.values() for device in part.devices]
 
     def count(kind):
@@ -304,17 +311,34 @@ def main_document(parts):
     chassis.add_i2c(CHASSIS_FRU, "CB", "Chassis EEPROM", 0x50, 0, "Midplane")
     chassis.add_fru(CHASSIS_FRU, "CHASSIS", "Chassis", 0, "NULL", CHASSIS_FRU, 101, TYPE="FIXED", EPMVALID="true",
                     EPMSIZE=256, MAX_ALARM_REASONS=32)
-    lists = [element("DEVICE", {"type": kind}, own + [include(file, f"/DEVICE[@type='{kind}']/*") for file in parts])
-             for kind, own in (("i2c", chassis.i2c), ("FRU", chassis.frus))]
     return element(
         "CHASSIS", {},
-        lists + [include(file, "/DEVICE[@ctrl]") for file in parts]
-        + [include(file, "/*") for file in ("data_path.xml", "models.xml")],
+        [element("DEVICE", {"type": "i2c"}, chassis.i2c + i2c), element("DEVICE", {"type": "FRU"}, chassis.frus + frus)]
+        + others,
         VERSION=2, FAMILY="KORV_GEN2", NDRAMSLOTS=4, NFANSLOTS=count("FAN"), NFPCSLOTS=count("FPC"),
         NSIBSLOTS=count("SIB"), NFPMSLOTS=count("FPM"), NFTCSLOTS=count("FTC"), NCBSLOTS=count("CB"),
         NPEMSLOTS=count("PEM"), NPICSLOTS=count("PIC"), NFPGAS=1 + FPCS, NTMPSENSORS=count("TMPSNR"),
         NVOLTSENSORS=count("VOLTSNR"), NFPLEDS=count("LED"), NBPLEDS=0, NBUTTONS=count("BTN"), FEATURE=7, PCIBUSADDR=3,
         PCISUBADDR1=28, PCISUBADDR2=0, PCIBUSADDR_MEZZ=4, PCISUBADDR1_MEZZ=29, PCISUBADDR2_MEZZ=1, LSPCI_OVERRIDE=0)
+
+
+def including_document(parts):
+    return main_document(
+        parts,
+        [include(file, "/DEVICE[@type='i2c']/*") for file in parts],
+        [include(file, "/DEVICE[@type='FRU']/*") for file in parts],
+        [include(file, "/DEVICE[@ctrl]") for file in parts]
+        + [include(file, "/*") for file in ("data_path.xml", "models.xml")])
+
+
+def whole_document(parts):
+    """What the including document amounts to, without ASICs and optics, with a comment before the devices of a part."""
+    devices = []
+    for file, part in parts.items():
+        devices += [ElementTree.Comment(f"What comes with {file[:-4].upper()}s."), *part.devices]
+    return main_document(
+        parts, [device for part in parts.values() for device in part.i2c],
+        [fru for part in parts.values() for fru in part.frus], devices + list(models_document()))
 
 
 def text(document, note):
@@ -328,11 +352,32 @@ def text(document, note):
         ""])
 
 
-def files():
+def configuration_files(chassis, note, add, **simulated):
+    """The configuration tree of a CHASSIS element and the simulation tree."""
+    tree = config_tree.convert(chassis)
+    add(tree)
+    return {
+        "chassis_dst.conf": config_tree.text(note, tree, config_tree.NOTES),
+        "chassis_dst_sim.conf": config_tree.text(
+            """Simulated readings, for a laboratory without the hardware: installed beside chassis_dst.conf, they
+            replace the readings that it has for the FRUs of these ids. Degrees Celsius, millivolts, milliamperes; fan
+            speed settings in percent.""",
+            config_only.simulation(tree, **simulated), {}),
+    }
+
+
+def modular_files():
     parts = {f"{kind.lower()}.xml": board_part(kind) for kind in BOARDS}
     parts["fan.xml"] = fan_part()
-    result = {"chassis_dst.xml": text(
-        main_document(parts), "A modular chassis. Degrees Celsius, millivolts, watts; fan speed settings in percent.")}
+    result = configuration_files(
+        whole_document(parts),
+        """The modular chassis of chassis_dst.xml as a configuration tree. It cannot describe the display, the ASICs,
+        the optics and the sensors of the power supplies, which NTMPSENSORS counts all the same. Degrees Celsius,
+        millivolts, watts; fan speed settings in percent.""",
+        config_only.add_modular, board=100, absent=(430, 720), fan_percent=50, output_current=160000)
+    result["chassis_dst.xml"] = text(
+        including_document(parts),
+        "A modular chassis. Degrees Celsius, millivolts, watts; fan speed settings in percent.")
     for file, part in parts.items():
         result[file] = text(part.document(), f"Included by chassis_dst.xml: what comes with {file[:-4].upper()}s.")
     result["data_path.xml"] = text(data_path_document(), "Included by chassis_dst.xml: ASICs and optics.")
@@ -340,23 +385,41 @@ def files():
     return result
 
 
+def fixed_files():
+    """The XML form is written by hand."""
+    parser = ElementTree.XMLParser(target=ElementTree.TreeBuilder(insert_comments=True))
+    return configuration_files(
+        ElementTree.parse(EXAMPLES / "fixed-1u/chassis_dst.xml", parser).getroot(),
+        """The fixed chassis of chassis_dst.xml as a configuration tree. It cannot describe the display, the ASIC and
+        the optics.""",
+        config_only.add_fixed_1u, board=1, absent=(21,), fan_percent=70, output_current=18000)
+
+
+# Of each example: the files that are written, and those that nothing else may have put there.
+WRITTEN = {"modular": (modular_files, ("*.xml", "*.conf")), "fixed-1u": (fixed_files, ("*.conf",))}
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--check", action="store_true", help="write nothing; fail if a file is out of date")
     check = parser.parse_args().check
 
-    generated = files()
-    if not check:
-        DIRECTORY.mkdir(parents=True, exist_ok=True)
-        for file, content in generated.items():
-            (DIRECTORY / file).write_text(content, encoding="utf-8")
-        return 0
-
-    present = {path.name: path.read_text(encoding="utf-8") for path in DIRECTORY.glob("*.xml")}
-    differing = sorted(file for file in generated.keys() | present.keys() if generated.get(file) != present.get(file))
-    for file in differing:
-        print(f"{DIRECTORY.name}/{file} is not what {pathlib.Path(__file__).name} writes", file=sys.stderr)
-    return 1 if differing else 0
+    up_to_date = True
+    for example, (files, patterns) in WRITTEN.items():
+        directory = EXAMPLES / example
+        generated = files()
+        if not check:
+            directory.mkdir(parents=True, exist_ok=True)
+            for file, content in generated.items():
+                (directory / file).write_text(content, encoding="utf-8")
+            continue
+        present = {path.name: path.read_text(encoding="utf-8")
+                   for pattern in patterns for path in directory.glob(pattern)}
+        for file in sorted(generated.keys() | present.keys()):
+            if generated.get(file) != present.get(file):
+                print(f"{example}/{file} is not what {pathlib.Path(__file__).name} writes", file=sys.stderr)
+                up_to_date = False
+    return 0 if up_to_date else 1
 
 
 if __name__ == "__main__":

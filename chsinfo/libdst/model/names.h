@@ -1,7 +1,8 @@
-// Lookups in the name tables of libdst.h.
+// Lookups in the name tables of libdst.h, and in the readers' tables of elements, controllers and kinds.
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 
 namespace dst {
 
@@ -13,6 +14,19 @@ int name_index(const char *const *table, int first, int last, const char *text);
 template <std::size_t Rows> const char *name_of(const char *const (&table)[Rows], int index) {
     const bool inside = index >= 0 && static_cast<std::size_t>(index) < Rows;
     return inside && table[index] ? table[index] : "";
+}
+
+inline bool equal(const char *text, const char *name) { return std::strcmp(text, name) == 0; }
+inline bool begins_with(const char *text, const char *name) { return std::strncmp(text, name, std::strlen(name)) == 0; }
+
+// The first entry of a table that the name matches, or null; no name matches nothing. The table ends with a null
+// `tagname`.
+template <class Entry>
+const Entry *find(const Entry *table, const char *name, bool (*matches)(const char *text, const char *name) = equal) {
+    for (; name && table->tagname; ++table)
+        if (matches(table->tagname, name))
+            return table;
+    return nullptr;
 }
 
 } // namespace dst

@@ -9,9 +9,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 
 #include "../model/log.h"
+#include "../model/names.h"
 #include "values.h"
 
 namespace dst {
@@ -28,16 +28,8 @@ template <std::size_t N> char *into(char (&text)[N]) {
     return text;
 }
 
-// The first entry with this name, or null. A node without a name (CDATA) matches nothing.
-template <class T> const tag_entry<T> *find(const tag_entry<T> *table, const char *name) {
-    for (; name && table->tagname; ++table)
-        if (std::strcmp(table->tagname, name) == 0)
-            return table;
-    return nullptr;
-}
-
-// Every element walk: each child that the table knows goes to its handler, in document order, until one fails, which is
-// logged. Returns the last handler's result, 0 when none ran.
+// Every element walk: each child that the table knows (a node without a name, CDATA, is none) goes to its handler, in
+// document order, until one fails, which is logged. Returns the last handler's result, 0 when none ran.
 template <class T>
 int walk(const char *func, const tag_entry<T> *table, xmlDocPtr doc, xmlNodePtr element, T *target,
          const char *failure) {

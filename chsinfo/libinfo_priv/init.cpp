@@ -21,6 +21,10 @@ int libc_configuration_init(void) {
         dst::log_plain(LOG_INFO, "Using xml config file %s", dst::xml_path);
         return libdst_init();
     }
+    if (access(dst::config_path, R_OK) == 0) {
+        dst::log_plain(LOG_INFO, "Using config file %s", dst::config_path);
+        return libdst_config_init();
+    }
     dst::log_plain(LOG_ERR, "Fatal: Could not find configuration file %s OR %s\n", dst::xml_path, dst::config_path);
     return -1;
 }

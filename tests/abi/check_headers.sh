@@ -7,9 +7,9 @@ shift
 flags=("$@" -Wall -Wextra -Wpedantic -Werror -I"$source_dir")
 
 # compiles COMPILER LANGUAGE STANDARD HEADER
-compiles() { "$1" "${flags[@]}" -std="$3" -fsyntax-only -include "chsinfo/$4" -x "$2" - </dev/null; }
+compiles() { "$1" "${flags[@]}" -std="$3" -fsyntax-only -include "$4" -x "$2" - </dev/null; }
 
-for header in libdst.h libdst_priv.h; do
+for header in chsinfo/libdst.h chsinfo/libdst_priv.h brio_config.h; do
     for compiler in gcc clang; do
         compiles $compiler c c11 $header
     done
@@ -20,5 +20,5 @@ for header in libdst.h libdst_priv.h; do
     done
 done
 for compiler in g++ clang++; do
-    compiles $compiler c++ c++20 libdst.hpp
+    compiles $compiler c++ c++20 chsinfo/libdst.hpp
 done

@@ -26,7 +26,7 @@ declared=$(cat "$source_dir"/chsinfo/libdst.h "$source_dir"/chsinfo/libdst_priv.
 expect "exports that no header declares" "" "$(comm -23 <(echo "$exported") <(echo "$declared"))"
 
 needed=$(readelf -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | sort)
-expect "needed libraries" $'libc.so.6\nlibxml2.so.2' "$needed"
+expect "needed libraries" $'libbrio_config.so.0\nlibc.so.6\nlibxml2.so.2' "$needed"
 expect "soname" "libdst.so.1" "$(readelf -d "$library" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')"
 expect "bound to itself (-Bsymbolic)" "" "$(readelf -d "$library" | grep -i symbolic || true)"
 expect "sections that run before main()" "" \

@@ -14,16 +14,19 @@ static void read_cases(const std::filesystem::path &path, std::vector<load_case>
     for (const std::string &line : lines_of(read_file(path))) {
         ++number;
         if (line.starts_with("=== ")) {
-            cases.push_back({path.stem(), number, line.substr(4), "", {}});
+            cases.push_back({path.stem(), number, line.substr(4), "", "", {}});
             inside = true;
             heading.clear();
         } else if (!inside) {
             continue;
         } else if (line.starts_with("--- ")) {
             heading = line.substr(4);
-            cases.back().expected[heading];
+            if (heading != "simulation")
+                cases.back().expected[heading];
         } else if (heading.empty()) {
             cases.back().document += line + "\n";
+        } else if (heading == "simulation") {
+            cases.back().simulation += line + "\n";
         } else if (!line.empty()) {
             cases.back().expected[heading].push_back(line.substr(line.find_first_not_of(' ')));
         }

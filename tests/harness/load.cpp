@@ -26,9 +26,47 @@ load_result load(const std::string &document) {
     return load();
 }
 
-load_result load_example(const std::string &name) {
+load_result load_config(const std::string &tree, const std::string &simulation) {
+    static const std::vector<std::pair<std::string, std::string>> root_keys = {
+        {"VERSION", "0"},
+        {"FAMILY", "\"QVL\""},
+        {"NDRAMSLOTS", "0"},
+        {"NFANSLOTS", "0"},
+        {"NPEMSLOTS", "0"},
+        {"NFPCSLOTS", "0"},
+        {"NFPMSLOTS", "0"},
+        {"NFTCSLOTS", "0"},
+        {"NCBSLOTS", "0"},
+        {"NSIBSLOTS", "0"},
+        {"NPICSLOTS", "0"},
+        {"NTIBSLOTS", "0"},
+        {"NFPGAS", "0"},
+        {"NTMPSENSORS", "0"},
+        {"NVOLTSENSORS", "0"},
+        {"NFPLEDS", "0"},
+        {"NBPLEDS", "0"},
+        {"FRUMODEL", "{ MODEL = ( { } ); }"},
+        {"CHSMODEL", "{ MODEL = ( ); }"},
+        {"FRUS", "( )"},
+    };
+    std::string whole = tree;
+    if (tree.find("CHASSIS") != 0) {
+        for (const auto &[key, value] : root_keys)
+            if (("\n" + tree).find("\n" + key + " =") == std::string::npos)
+                whole += key + " = " + value + ";\n";
+        whole = "CHASSIS = {\n" + whole + "};\n";
+    }
+    write_platform_file("chassis_dst.xml", "");
+    write_platform_file("chassis_dst.conf", whole);
+    write_platform_file("chassis_dst_sim.conf", simulation.empty() ? "CHASSIS = { };\n" : simulation);
+    return load();
+}
+
+load_result load_example(const std::string &name, form source) {
+    write_platform_file("chassis_dst.xml", "");
     for (const auto &file : std::filesystem::directory_iterator(DST_SHARE "/examples/" + name))
-        write_platform_file(file.path().filename(), read_file(file.path()));
+        if ((file.path().extension() == ".conf") == (source == form::config))
+            write_platform_file(file.path().filename(), read_file(file.path()));
     write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
     return load();
 }

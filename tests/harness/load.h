@@ -23,8 +23,13 @@ load_result load();
 // The same with this document and a schema that lets everything through. A fragment becomes the content of CHASSIS.
 load_result load(const std::string &document);
 
-// The same with a shipped example, against the shipped schema.
-load_result load_example(const std::string &name);
+// The same from a configuration tree. A fragment, which is the content of the group CHASSIS, gets the root keys that it
+// lacks and a read cannot do without or remarks on; without a simulation tree there is an empty one.
+load_result load_config(const std::string &tree, const std::string &simulation = "");
+
+// The same with a shipped example: the document, against the shipped schema, or the configuration tree.
+enum class form { xml, config };
+load_result load_example(const std::string &name, form source = form::xml);
 
 // Whether every byte of `chs_info` is zero.
 bool model_is_zero();

@@ -14,12 +14,7 @@ std::string unindented(const std::string &line) {
 }
 
 // The lines of a dump that an empty chassis does not print, less their indentation.
-std::vector<std::string> beyond_empty(const std::vector<std::string> &dump) {
-    static const std::vector<std::string> empty = [] {
-        auto lines = load("").dump();
-        libchs_release();
-        return lines;
-    }();
+std::vector<std::string> beyond(const std::vector<std::string> &empty, const std::vector<std::string> &dump) {
     std::vector<std::string> rest;
     for (std::size_t i = 0, at = 0; i < dump.size(); ++i) {
         const bool header = at < empty.size() && dump[i] == empty[at];
@@ -30,6 +25,12 @@ std::vector<std::string> beyond_empty(const std::vector<std::string> &dump) {
             rest.push_back(unindented(dump[i]));
     }
     return rest;
+}
+
+std::vector<std::string> empty_dump(load_result (*load_one)(const load_case &)) {
+    auto lines = load_one({}).dump();
+    libchs_release();
+    return lines;
 }
 
 // The first of these lines that the dump does not show after the ones before it; empty when it shows all.
@@ -44,20 +45,20 @@ std::string first_missing(const std::vector<std::string> &wanted, const std::vec
     return "";
 }
 
-class Case : public testing::TestWithParam<load_case> {};
+using texts = std::vector<std::string>;
 
-TEST_P(Case, Loads) {
-    const load_case &one = GetParam();
+// Loads the case by `load_one` and holds it to what it expects.
+void expect_case(const load_case &one, load_result (*load_one)(const load_case &), const texts &empty,
+                 texts (*tail)(const std::string &heading)) {
     SCOPED_TRACE(one);
-    beyond_empty({});
-    const load_result result = load(one.document);
+    const load_result result = load_one(one);
     const auto errors = texts_of(result.log, LOG_ERR);
     const auto expected_lines = [&](const char *heading) {
         const auto found = one.expected.find(heading);
-        return found == one.expected.end() ? std::vector<std::string>{} : found->second;
+        return found == one.expected.end() ? texts{} : found->second;
     };
     if (one.expected.contains("dump") || one.expected.contains("shows")) {
-        const auto dump = beyond_empty(result.dump());
+        const auto dump = beyond(empty, result.dump());
         EXPECT_EQ(errors, expected_lines("log"));
         EXPECT_EQ(result.status, 0);
         if (one.expected.contains("dump")) {
@@ -67,8 +68,8 @@ TEST_P(Case, Loads) {
     } else {
         ASSERT_EQ(one.expected.size(), 1U) << "a case has one outcome";
         auto [heading, expected] = *one.expected.begin();
-        const auto tail = failure_tail(heading);
-        expected.insert(expected.end(), tail.begin(), tail.end());
+        const texts after = tail(heading);
+        expected.insert(expected.end(), after.begin(), after.end());
         EXPECT_EQ(errors, expected);
         EXPECT_LT(result.status, 0);
         EXPECT_TRUE(result.dump().empty());
@@ -78,11 +79,33 @@ TEST_P(Case, Loads) {
     EXPECT_TRUE(model_is_zero());
 }
 
-INSTANTIATE_TEST_SUITE_P(Xml, Case, testing::ValuesIn(all_cases()), [](const auto &info) {
+std::string name_of_case(const testing::TestParamInfo<load_case> &info) {
     std::string name = info.param.file + "_" + std::to_string(info.param.line);
     for (char &c : name)
         c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
     return name;
-});
+}
+
+load_result load_document(const load_case &one) { return load(one.document); }
+
+class XmlCase : public testing::TestWithParam<load_case> {};
+TEST_P(XmlCase, Loads) {
+    static const texts empty = empty_dump(load_document);
+    expect_case(GetParam(), load_document, empty, failure_tail);
+}
+INSTANTIATE_TEST_SUITE_P(Xml, XmlCase, testing::ValuesIn(all_cases()), name_of_case);
+
+load_result load_tree(const load_case &one) {
+    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
+}
+
+texts config_failure_tail(const std::string &) { return {"Could not parse configuration file!\\n"}; }
+
+class ConfigCase : public testing::TestWithParam<load_case> {};
+TEST_P(ConfigCase, Loads) {
+    static const texts empty = empty_dump(load_tree);
+    expect_case(GetParam(), load_tree, empty, config_failure_tail);
+}
+INSTANTIATE_TEST_SUITE_P(Config, ConfigCase, testing::ValuesIn(all_cases(DST_TEST_DATA "/config")), name_of_case);
 
 } // namespace

@@ -8,7 +8,10 @@ static const struct {
     int (*run)(int count, char **words);
     const char *usage;
 } verbs[] = {
-    {"show", verb_show, "show [--schema FILE] FILE   load a description as the daemon does and print the model"},
+    {"show", verb_show,
+     "show [--schema FILE] FILE   load a description as the daemon does and print the model; FILE is an XML document, "
+     "or\n"
+     "                              a configuration tree where its name ends in .conf"},
 };
 
 int usage() {

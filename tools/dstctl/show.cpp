@@ -9,6 +9,7 @@
 
 #include "chsinfo/libdst/model/log.h"
 #include "chsinfo/libdst/xml/load.h"
+#include "chsinfo/libdst_config/load.h"
 #include "dstctl.h"
 
 static void log_to_stderr(int priority, const char *format, va_list arguments) {
@@ -46,32 +47,59 @@ static bool readable(const char *path) {
     return false;
 }
 
+static bool is_config(const char *file) {
+    const std::size_t length = std::strlen(file);
+    return length > 5 && std::strcmp(file + length - 5, ".conf") == 0;
+}
+
+static int refuse(const char *why) {
+    std::fprintf(stderr, "dstctl: %s\n", why);
+    return exit_refused;
+}
+
+// A configuration tree; the simulation tree beside it is read with it.
+static int load_config(const char *file) {
+    char folder[PATH_MAX];
+    if (!beside(file, ".", folder))
+        return refuse("the name is too long");
+    openlog("dstctl", LOG_PERROR, LOG_USER); // the configuration-tree library logs for itself
+    if (libdst_config_init({file, folder, stderr}) == 0)
+        return exit_done;
+    std::fputc('\n', stderr); // the verdict has no line end
+    return exit_wrong;
+}
+
+static int load_xml(const char *document, const char *schema) {
+    char found[PATH_MAX] = "";
+    if (!schema && find_schema(document, found))
+        schema = found;
+    if (!schema)
+        return refuse("no schema found, name one with --schema");
+    if (!readable(schema))
+        return exit_refused;
+    return libdst_init({document, schema, nullptr, stderr}) == 0 ? exit_done : exit_wrong;
+}
+
 int verb_show(int count, char **words) {
-    const char *document = nullptr;
+    const char *file = nullptr;
     const char *schema = nullptr;
     for (int i = 0; i < count; ++i) {
         if (std::strcmp(words[i], "--schema") == 0 && i + 1 < count && !schema)
             schema = words[++i];
-        else if (words[i][0] != '-' && !document)
-            document = words[i];
+        else if (words[i][0] != '-' && !file)
+            file = words[i];
         else
             return usage();
     }
-    char found[PATH_MAX] = "";
-    if (!document)
+    if (!file || (schema && is_config(file)))
         return usage();
-    if (!schema && find_schema(document, found))
-        schema = found;
-    if (!schema) {
-        std::fputs("dstctl: no schema found, name one with --schema\n", stderr);
-        return exit_refused;
-    }
-    if (!readable(document) || !readable(schema))
+    if (!readable(file))
         return exit_refused;
 
     dst::log_sink = log_to_stderr;
-    if (libdst_init({document, schema, nullptr, stderr}) < 0)
-        return exit_wrong;
+    const int status = is_config(file) ? load_config(file) : load_xml(file, schema);
+    if (status != exit_done)
+        return status;
     display_dst_info();
     libdst_release();
     return std::fflush(stdout) == 0 ? exit_done : exit_refused;

@@ -1,11 +1,10 @@
-// Every query, on models read from documents. A row says how a query is called and what it finds; the tests take all
-// rows through a model that is empty, one with one record of each kind, several records, repeated keys, or no model.
-// The EPM initialisation is in load_test.cpp.
+// Every query, on models read from documents and configuration trees. A row says how a query is called and what it
+// finds; the tests take all rows through a model that is empty, one with one record of each kind, several records,
+// repeated keys, or no model. The EPM initialisation is in load_test.cpp.
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "../harness/append.h"
 #include "../harness/load.h"
 #include "../harness/walk.h"
 #include "chsinfo/libdst_priv.h"
@@ -15,7 +14,7 @@ namespace {
 using keys = std::vector<uint32_t>;
 using lines = std::vector<std::string>;
 
-// Documents
+// Descriptions, in either form
 
 struct kind {
     std::string device, controller;
@@ -28,78 +27,116 @@ const kind device_kinds[] = {
     {"FPC", "FPC", 400, 130, true},    {"SIB", "SIB", 500, 140, true},   {"FPM", "FPM", 600, 150, true},
     {"FTC", "FTC", 700, 160, true},    {"CB", "CB", 800, 170, true},     {"TMPSNR", "TMP435", 900, 40},
     {"VOLTSNR", "MAX207XX", 1000, 40}, {"LED", "DURNLED", 1100, 40},     {"LCD", "GENERICLCD", 1200, 40},
-    {"BTN", "QVLBTN", 1300, 40},
+    {"BTN", "QVLBTN", 1300, 40},       {"TIB", "TIB", 1400, 200, true},
 };
-constexpr uint32_t first_tib = 1400;
-constexpr uint32_t first_tib_fru = 200;
+
+// Whether a form can describe what a name, of a kind or of an operation, speaks of.
+bool speaks_of(form source, const std::string &name) {
+    const auto has = [&name](std::initializer_list<const char *> words) {
+        return std::any_of(words.begin(), words.end(), [&](auto word) { return name.find(word) != name.npos; });
+    };
+    return source == form::xml ? !has({"TIB", "tib_info"}) : !has({"LCD", "lcd_", "asic", "bcm", "optics"});
+}
 
 // What a device adds to the ids of its kind and of the FRU: two devices share controller and FRU.
 constexpr struct { uint32_t id, fru; } devices[] = {{5, 0}, {3, 1}, {9, 0}};
 
-std::string element(const std::string &name, uint32_t id, const std::string &attributes = "",
-                    const std::string &content = "") {
-    return "<" + name + " id='" + std::to_string(id) + "' " + attributes + ">" + content + "</" + name + ">";
+// An element with an id, a type and a controller where there are any, and elements inside; as a group of keys.
+struct record {
+    std::string name;
+    uint32_t id;
+    std::string type, controller;
+    std::vector<std::pair<std::string, std::string>> content;
+};
+
+std::string text_of(form source, const record &one) {
+    std::string inside;
+    if (source == form::config) {
+        inside = "id = " + std::to_string(one.id) + ";";
+        for (const auto &[key, value] : {std::pair("Type", one.type), std::pair("ctrl", one.controller)})
+            inside += value.empty() ? "" : std::string(key) + " = \"" + value + "\";";
+        for (const auto &[key, value] : one.content)
+            inside += key + " = " + (key == "PARENT" ? "\"" + value + "\"" : value) + ";";
+        const bool insists = one.type == "FAN" || one.type == "TMPSNR"; // on a list, as a device
+        return "{ " + inside + (insists && !one.controller.empty() ? "FAN = (); THRESHOLD = ();" : "") + " }";
+    }
+    for (const auto &[key, value] : one.content)
+        inside += "<" + key + ">" + value + "</" + key + ">";
+    return "<" + one.name + " id='" + std::to_string(one.id) + "' type='" + one.type + "' ctrl='" + one.controller +
+           "'>" + inside + "</" + one.name + ">";
 }
-std::string number(const std::string &name, uint32_t value) {
-    return "<" + name + ">" + std::to_string(value) + "</" + name + ">";
-}
-std::string i2c_device(uint32_t id, const std::string &type) { return element("I2CDEV", id, "type='" + type + "'"); }
-std::string fru(uint32_t id, const std::string &type, const std::string &parent = "<PARENT>NULL</PARENT>") {
-    return element("FRUDEV", id, "type='" + type + "'", "<I2CDEVID>-1</I2CDEVID>" + parent);
+
+record fru(uint32_t id, const std::string &type, const std::string &parent = "NULL") {
+    return {"FRUDEV", id, type, "", {{"I2CDEVID", "-1"}, {"PARENT", parent}}};
 }
 std::string port(uint32_t id, uint32_t pic) {
-    return element("PORT", id, "", number("PICI2CID", pic) + number("FRONTPANELPORT", 100 + id));
+    return text_of(form::xml, {"PORT", id, "", "", {{"PICI2CID", std::to_string(pic)}, {"FRONTPANELPORT", "7"}}});
 }
-std::string asic(uint32_t id, const std::string &ports) {
-    return element("ASIC", id, "", "<CHIPBCM>" + ports + "</CHIPBCM>");
-}
-std::string optic(uint32_t port_id, uint32_t slot) { return element("PORT", port_id, "", number("PICSLOT", slot)); }
-std::string model(uint32_t id, const std::string &type) { return element("MODEL", id, "type='" + type + "'"); }
+record asic(uint32_t id, const std::string &ports) { return {"ASIC", id, "", "", {{"CHIPBCM", ports}}}; }
+record optic(uint32_t id, uint32_t slot) { return {"PORT", id, "", "", {{"PICSLOT", std::to_string(slot)}}}; }
+record model(uint32_t id, const std::string &type) { return {"MODEL", id, type, "", {}}; }
 
-// All records or one of each kind; each element so many times.
-std::string description(bool all, int copies) {
-    const auto list = [=](std::vector<std::string> elements) {
-        elements.resize(all ? elements.size() : 1);
+// All records or one of each kind; each of them so many times.
+std::string description(form source, bool all, int copies) {
+    const auto list = [=](std::vector<record> records) {
+        records.resize(all ? records.size() : 1);
         std::string text;
-        for (const std::string &one : elements)
+        for (const record &one : records)
             for (int i = 0; i < copies; ++i)
-                text += one;
+                text += (text.empty() || source == form::xml ? "" : ", ") + text_of(source, one);
         return text;
     };
-    std::string frus = list({fru(1, "CHASSIS"), fru(2, "CHASSIS")});
-    const auto add_frus = [&](uint32_t id, const std::string &type, uint32_t parent_id) {
-        const std::string parent = number("PARENT", parent_id);
-        frus += list({fru(id, type, parent), fru(id + 1, type, parent)});
+    const auto join = [=](std::string &texts, const std::string &text) {
+        texts += (texts.empty() || source == form::xml ? "" : ", ") + text;
     };
+    std::string frus = list({fru(1, "CHASSIS"), fru(2, "CHASSIS")});
     std::string kinds;
     for (const kind &one : device_kinds) {
-        std::vector<std::string> elements;
+        if (one.holds_frus) {
+            const std::string parent = one.device == "PIC" ? "130" : "1";
+            join(frus, list({fru(one.fru_id, one.device, parent), fru(one.fru_id + 1, one.device, parent)}));
+        }
+        if (!speaks_of(source, one.device))
+            continue;
+        std::vector<record> of_kind;
         for (const auto &device : devices)
-            elements.push_back(element("DEVICE", one.id + device.id,
-                                       "type='" + one.device + "' ctrl='" + one.controller + "'",
-                                       number("FRUID", one.fru_id + device.fru)));
-        kinds += list(elements);
-        if (one.holds_frus)
-            add_frus(one.fru_id, one.device, one.device == "PIC" ? 130 : 1);
+            of_kind.push_back({"DEVICE",
+                               one.id + device.id,
+                               one.device,
+                               one.controller,
+                               {{"FRUID", std::to_string(one.fru_id + device.fru)}}});
+        join(kinds, list(of_kind));
     }
-    add_frus(first_tib_fru, "TIB", 1);
-    const std::string ports = list({port(5, 32), port(3, 33), port(9, 32)});
-    const std::string more_ports = list({port(6, 32), port(4, 33), port(8, 32)});
-    std::vector<std::string> asics = {asic(30, ports), asic(31, ""), asic(32, more_ports)};
+    const auto i2c_device = [](uint32_t id, const char *type) { return record{"I2CDEV", id, type, "", {}}; };
+    const std::string i2c_devices = list({i2c_device(11, "FPC"), i2c_device(13, "CB"), i2c_device(12, "FPC")});
+    const std::string fru_models = list({model(3, "FAN"), model(1, "PEM"), model(2, "FAN")});
+    const std::string chassis_models = list({model(72, "CHASSIS"), model(71, "CHASSIS")});
+    if (source == form::config)
+        return "BUS = { I2CDEV = ( " + i2c_devices + " ); };\nFRUS = ( " + frus + " );\nDEVICES = ( " + kinds +
+               " );\nFRUMODEL = { MODEL = ( " + fru_models + " ); };\nCHSMODEL = { MODEL = ( " + chassis_models +
+               " ); };\n";
+    const auto ports = [=](std::initializer_list<std::pair<uint32_t, uint32_t>> of_pics) {
+        std::string text;
+        for (const auto &[id, pic] : of_pics)
+            for (int i = 0; i < copies && (all || text.empty()); ++i)
+                text += port(id, pic);
+        return text;
+    };
+    std::vector<record> asics = {asic(30, ports({{5, 32}, {3, 33}, {9, 32}})), asic(31, ""),
+                                 asic(32, ports({{6, 32}, {4, 33}, {8, 32}}))};
     if (all)
         asics.insert(asics.begin(), asic(33, ""));
-    return "<DEVICE type='i2c'>" + list({i2c_device(11, "FPC"), i2c_device(13, "CB"), i2c_device(12, "FPC")}) +
-           "</DEVICE><DEVICE type='FRU'>" + frus + "</DEVICE>" + kinds + "<DEVICE type='asic'>" + list(asics) +
-           "</DEVICE><DEVICE type='optics'>" + list({optic(1, 0), optic(2, 0), optic(1, 1), optic(2, 1), optic(1, 2)}) +
-           "</DEVICE><FRUMODEL>" + list({model(3, "FAN"), model(1, "PEM"), model(2, "FAN")}) + "</FRUMODEL>" +
-           list({model(72, "CHASSIS"), model(71, "CHASSIS")});
+    return "<DEVICE type='i2c'>" + i2c_devices + "</DEVICE><DEVICE type='FRU'>" + frus + "</DEVICE>" + kinds +
+           "<DEVICE type='asic'>" + list(asics) + "</DEVICE><DEVICE type='optics'>" +
+           list({optic(1, 0), optic(2, 0), optic(1, 1), optic(2, 1), optic(1, 2)}) + "</DEVICE><FRUMODEL>" +
+           fru_models + "</FRUMODEL>" + chassis_models;
 }
 
 // The host's EPM data: how many boards there are, and whether both say that they are the main board.
 int epm_boards;
 bool epm_repeats;
 
-void load_description(bool all, int copies = 1) {
+void load_description(bool all, int copies = 1, form source = form::xml) {
     epm_boards = all ? 2 : 1;
     epm_repeats = copies > 1;
     epm_null_ops = {[](cepm_type_t type) { return type <= epm_boards; },
@@ -107,16 +144,9 @@ void load_description(bool all, int copies = 1) {
                         data->cepm_type = epm_repeats ? EPM_TYPE_MAINBOARDID : type;
                         return 0;
                     }};
-    const load_result result = load(description(all, copies));
+    const std::string text = description(source, all, copies);
+    const load_result result = source == form::xml ? load(text) : load_config(text);
     ASSERT_EQ(texts_of(result.log, LOG_ERR), lines{}) << result.err;
-    for (const auto &device : devices)
-        for (int i = 0; i < copies && (all || device.id == devices[0].id); ++i) {
-            auto *entry = append(chs_info.tib_info, &tib_module_list_t::tib_next);
-            entry->tib_minfo = static_cast<tib_info_t *>(std::calloc(1, sizeof(tib_info_t)));
-            entry->tib_minfo->id = first_tib + device.id;
-            entry->tib_minfo->ctrl_type = CTRL_TYPE_TIB;
-            entry->tib_minfo->fru_info = libchs_fru_info_get_by_id(first_tib_fru + device.fru);
-        }
 }
 
 // Rows
@@ -340,8 +370,8 @@ std::vector<lookup> lookups() {
                   libchs_btn_info_get_next),
         by_key_in("fru_info_get_by_id_priv", "empty fru list!", libchs_fru_info_get_by_id, 201, 3,
                   libchs_fru_info_get_next),
-        // 108: the front-panel port of port 8
-        by_key_in("bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 108,
+        // 7: every port's front-panel port
+        by_key_in("bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 7,
                   next_port),
         by_key_in("epm_data_get_by_type_priv", "empty epm list!", epm_by_type, EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN,
                   libchs_epm_data_get_next),
@@ -418,7 +448,6 @@ TEST_F(Queries, AnEmptySlotAnswersForItsOperation) {
 
 // What the walk finds, and what follows copies, unknown records and records that the walk leaves out.
 void expect_walk(const walk &row, const keys &expected) {
-    SCOPED_TRACE(row.operation);
     take_log();
     const std::vector<void *> found = all_of(row.next);
     EXPECT_EQ(take_log(), row.end_log());
@@ -444,45 +473,49 @@ void expect_walk(const walk &row, const keys &expected) {
             expect(row.next(other), nullptr, "a record left out");
 }
 
+// Loads a description in each form and calls check(row) for the rows that the form can fill.
+void with_each_form(const auto &rows, bool all, int copies, auto check) {
+    for (form source : {form::xml, form::config}) {
+        SCOPED_TRACE(source == form::xml ? "XML" : "configuration tree");
+        ASSERT_NO_FATAL_FAILURE(load_description(all, copies, source));
+        for (const auto &row : rows) {
+            SCOPED_TRACE(row.operation);
+            if (speaks_of(source, row.operation))
+                check(row);
+        }
+        libchs_release();
+    }
+}
+
 TEST_F(Queries, WalkOneRecord) {
-    ASSERT_NO_FATAL_FAILURE(load_description(false));
-    for (const walk &row : walks())
-        expect_walk(row, row.one);
+    with_each_form(walks(), false, 1, [](const walk &row) { expect_walk(row, row.one); });
 }
 
 TEST_F(Queries, WalkSeveralRecords) {
-    ASSERT_NO_FATAL_FAILURE(load_description(true));
-    for (const walk &row : walks())
-        expect_walk(row, row.several);
+    with_each_form(walks(), true, 1, [](const walk &row) { expect_walk(row, row.several); });
 }
 
 TEST_F(Queries, WalksOverRepeatedKeysEnd) {
-    ASSERT_NO_FATAL_FAILURE(load_description(true, 2));
-    for (const walk &row : walks()) {
-        SCOPED_TRACE(row.operation);
+    with_each_form(walks(), true, 2, [](const walk &row) {
         std::vector<void *> found = all_of(row.next);
         ASSERT_EQ(found.size(), row.repeated);
         EXPECT_EQ(row.next_of_copy(found[1]), found[1]) << "a copy of the second stands for the first";
         std::sort(found.begin(), found.end());
         EXPECT_EQ(std::unique(found.begin(), found.end()), found.end()) << "each once";
-    }
+    });
 }
 
 TEST_F(Queries, LookUpTheFirstWithTheKey) {
-    for (int copies : {1, 2}) {
-        ASSERT_NO_FATAL_FAILURE(load_description(true, copies));
-        take_log();
-        for (const lookup &row : lookups()) {
-            SCOPED_TRACE(row.operation);
+    for (int copies : {1, 2})
+        with_each_form(lookups(), true, copies, [](const lookup &row) {
+            take_log();
             void *found = row.find(row.known);
             ASSERT_NE(found, nullptr);
             EXPECT_EQ(row.key(found), row.known);
             EXPECT_EQ(row.find(row.unknown), nullptr);
             EXPECT_EQ(take_log().size(), 0U);
             EXPECT_EQ(found, row.first(row.known));
-            take_log();
-        }
-    }
+        });
 }
 
 // What the rows do not show
@@ -580,30 +613,31 @@ TEST_F(Queries, AFruIdByTypeAndSlot) {
 }
 
 TEST_F(Queries, ResiliencyData) {
-    ASSERT_EQ(load("").status, 0);
+    ASSERT_EQ(load_config(R"(RESILMODEL = (
+        { Type = "FPC"; ASSEMBLYID = 0x10004; }, { Type = "CB"; ASSEMBLYID = 0xFFFE; },
+        { Type = "FPC"; ASSEMBLYID = 0xFFFE; }, { Type = "FPC"; ASSEMBLYID = 0xFFFE; },
+        { Type = "FPC"; ASSEMBLYID = 4; MODULE = ( { KEY = 1; }, { KEY = 2; } ); } );
+)")
+                  .status,
+              0);
     take_log();
-    const resil_fru_info_t entries[] = {{FRU_TYPE_FPC, 0x10004, 0},
-                                        {FRU_TYPE_CB, 0xFFFE, 0},
-                                        {FRU_TYPE_FPC, 0xFFFE, 0},
-                                        {FRU_TYPE_FPC, 0xFFFE, 0},
-                                        {FRU_TYPE_FPC, 4, 0}};
     std::vector<resil_fru_list_t *> frus;
-    for (const auto &info : entries) {
-        frus.push_back(append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next));
-        frus.back()->resil_finfo = info;
-    }
+    for (auto *fru = chs_info.resil_info.tqh_first; fru; fru = fru->resil_fru_next.tqe_next)
+        frus.push_back(fru);
+    ASSERT_EQ(frus.size(), 5U);
     EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 0xFFFE), frus[2]) << "of this kind, and the first";
     EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_CB, 0xFFFE), frus[1]);
     EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 4), frus[4]) << "all bits of the entry's id count";
     EXPECT_EQ(libdst_resil_get_fru_list(FRU_TYPE_FPC, 5), nullptr);
 
-    resil_module_list_t *modules[2];
-    for (auto *&module : modules)
-        module = append(frus[4]->resil_modules, &resil_module_list_t::resil_module_next);
-    EXPECT_EQ(libdst_resil_module_list_get_next(frus[4], nullptr), modules[0]);
-    EXPECT_EQ(libdst_resil_module_list_get_next(frus[0], modules[0]), modules[1]) << "by the module's own link";
-    EXPECT_EQ(libdst_resil_module_list_get_next(nullptr, modules[0]), modules[1]);
-    EXPECT_EQ(libdst_resil_module_list_get_next(frus[4], modules[1]), nullptr);
+    resil_module_list_t *const first = libdst_resil_module_list_get_next(frus[4], nullptr);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->resil_minfo.key, 1U);
+    resil_module_list_t *const second = libdst_resil_module_list_get_next(frus[0], first);
+    ASSERT_TRUE(second) << "by the module's own link";
+    EXPECT_EQ(second->resil_minfo.key, 2U);
+    EXPECT_EQ(libdst_resil_module_list_get_next(nullptr, first), second);
+    EXPECT_EQ(libdst_resil_module_list_get_next(frus[4], second), nullptr);
     EXPECT_EQ(libdst_resil_module_list_get_next(frus[0], nullptr), nullptr) << "an entry without modules";
     EXPECT_EQ(take_log().size(), 0U);
 }

@@ -3,15 +3,14 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "../harness/append.h"
 #include "../harness/load.h"
 #include "../harness/walk.h"
 #include "chsinfo/libdst.hpp"
 
 namespace {
 
-// The modular example, with records of the kinds that no document brings.
-class Ranges : public testing::Test {
+// The modular example in either form, with EPM data.
+class Ranges : public testing::TestWithParam<form> {
   protected:
     void SetUp() override {
         epm_null_ops = {[](cepm_type_t) { return true; },
@@ -19,16 +18,7 @@ class Ranges : public testing::Test {
                             data->cepm_type = type;
                             return 0;
                         }};
-        ASSERT_EQ(load_example("modular").status, 0);
-        for (uint32_t id : {1U, 2U}) {
-            auto *entry = append(chs_info.tib_info, &tib_module_list_t::tib_next);
-            entry->tib_minfo = static_cast<tib_info_t *>(std::calloc(1, sizeof(tib_info_t)));
-            entry->tib_minfo->id = id;
-            entry->tib_minfo->fru_info = libchs_fru_info_get_by_id(1);
-        }
-        auto *entry = append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
-        for (int i = 0; i < 3; ++i)
-            append(entry->resil_modules, &resil_module_list_t::resil_module_next);
+        ASSERT_EQ(load_example("modular", GetParam()).status, 0);
     }
     void TearDown() override {
         libchs_release();
@@ -36,8 +26,32 @@ class Ranges : public testing::Test {
     }
 };
 
+// Calls visit(range, walk) for the ranges of libdst.hpp that only one of the forms can fill.
+void each_range_of(form source, auto visit) {
+    if (source == form::xml) {
+        const uint32_t asic = dst::asics().begin()->id;
+        const uint32_t pic = dst::ports_of_asic(asic).begin()->pic_i2cid;
+        const optics_info_t &optic = *dst::optics().begin();
+        visit(dst::lcds(), libchs_lcd_info_get_next);
+        visit(dst::asics(), libchs_asic_info_get_next);
+        visit(dst::optics(), libchs_optics_info_get_next);
+        visit(dst::ports_of_asic(asic), with(asic, libchs_bcm_port_info_get_next));
+        visit(dst::ports_of_pic(pic), with(pic, libchs_bcm_port_info_get_next_by_picid));
+        visit(dst::optics_of_port(optic.port_id), with(optic.port_id, libchs_optics_info_get_next_by_port_no));
+        visit(dst::optics_of_slot(optic.pic_id), with(optic.pic_id, libchs_optics_info_get_next_by_slotno));
+    } else {
+        const fru_info_t &fru = *dst::tibs().begin()->fru_info;
+        resil_fru_list_t &entry = *chs_info.resil_info.tqh_first;
+        visit(dst::tibs(), libchs_tib_info_get_next);
+        visit(dst::tibs(fru), with(fru.id, libchs_fru_tib_info_get_next));
+        visit(dst::modules(entry),
+              [&](resil_module_list_t *at) { return libdst_resil_module_list_get_next(&entry, at); });
+    }
+}
+
 // Calls visit(range, walk) for every range of libdst.hpp.
-void each_range(auto visit) {
+void each_range(form source, auto visit) {
+    each_range_of(source, visit);
     visit(dst::i2c_devices(), libchs_i2c_dev_info_get_next);
     visit(dst::fans(), libchs_fan_info_get_next);
     visit(dst::pems(), libchs_pem_info_get_next);
@@ -46,16 +60,12 @@ void each_range(auto visit) {
     visit(dst::fpms(), libchs_fpm_info_get_next);
     visit(dst::ftcs(), libchs_ftc_info_get_next);
     visit(dst::cbs(), libchs_cb_info_get_next);
-    visit(dst::tibs(), libchs_tib_info_get_next);
     visit(dst::temperature_sensors(), libchs_tmpsnr_info_get_next);
     visit(dst::voltage_sensors(), libchs_voltsnr_info_get_next);
     visit(dst::leds(), libchs_led_info_get_next);
-    visit(dst::lcds(), libchs_lcd_info_get_next);
     visit(dst::buttons(), libchs_btn_info_get_next);
     visit(dst::pics(), libchs_pic_info_get_next);
     visit(dst::frus(), libchs_fru_info_get_next);
-    visit(dst::asics(), libchs_asic_info_get_next);
-    visit(dst::optics(), libchs_optics_info_get_next);
     visit(dst::epm_data(), libchs_epm_data_get_next);
     visit(dst::fru_models(), libdst_fru_model_info_get_next);
     visit(dst::chassis_models(), libdst_chassis_model_info_get_next);
@@ -64,14 +74,6 @@ void each_range(auto visit) {
           [](i2c_dev_info_t *at) { return libchs_i2c_dev_info_get_next_by_type(at, I2C_TYPE_FPC); });
     visit(dst::fru_models(FRU_TYPE_PEM),
           [](const fru_model_info_t *at) { return libdst_fru_model_info_get_next_by_type(at, FRU_TYPE_PEM); });
-    const uint32_t asic = dst::asics().begin()->id;
-    const uint32_t pic = dst::ports_of_asic(asic).begin()->pic_i2cid;
-    const optics_info_t &optic = *dst::optics().begin();
-    visit(dst::ports_of_asic(asic), with(asic, libchs_bcm_port_info_get_next));
-    visit(dst::ports_of_pic(pic), with(pic, libchs_bcm_port_info_get_next_by_picid));
-    visit(dst::optics_of_port(optic.port_id), with(optic.port_id, libchs_optics_info_get_next_by_port_no));
-    visit(dst::optics_of_slot(optic.pic_id), with(optic.pic_id, libchs_optics_info_get_next_by_slotno));
-
     visit(dst::fan_frus(), libchs_fru_info_get_next_by_fan);
     visit(dst::pem_frus(), libchs_fru_info_get_next_by_pem);
     visit(dst::fpc_frus(), libchs_fru_info_get_next_by_fpc);
@@ -104,17 +106,12 @@ void each_range(auto visit) {
     on_fru(
         dst::cbs(), [](auto &fru) { return dst::cbs(fru); }, libchs_fru_cb_info_get_next);
     on_fru(
-        dst::tibs(), [](auto &fru) { return dst::tibs(fru); }, libchs_fru_tib_info_get_next);
-    on_fru(
         dst::pics(), [](auto &fru) { return dst::pics(fru); }, libchs_fru_pic_info_get_next);
-
-    resil_fru_list_t &entry = *libdst_resil_get_fru_list(FRU_TYPE_UNKNOWN, 0);
-    visit(dst::modules(entry), [&](resil_module_list_t *at) { return libdst_resil_module_list_get_next(&entry, at); });
 }
 
-TEST_F(Ranges, GiveTheRecordsOfTheirWalks) {
+TEST_P(Ranges, GiveTheRecordsOfTheirWalks) {
     int empty = 0;
-    each_range([&empty](auto range, auto next) {
+    each_range(GetParam(), [&empty](auto range, auto next) {
         static_assert(std::ranges::forward_range<decltype(range)> && std::ranges::common_range<decltype(range)>);
         static_assert(std::ranges::view<decltype(range)> && std::ranges::borrowed_range<decltype(range)>);
         std::vector<decltype(next(nullptr))> found;
@@ -126,7 +123,7 @@ TEST_F(Ranges, GiveTheRecordsOfTheirWalks) {
     EXPECT_EQ(empty, 1) << "the FRUs of TIB boards";
 }
 
-TEST_F(Ranges, GoWithTheAlgorithms) {
+TEST_P(Ranges, GoWithTheAlgorithms) {
     const auto fpc_3 = std::ranges::find(dst::fpcs(), std::string_view("FPC 3"), &fpc_info_t::name);
     ASSERT_NE(fpc_3, dst::fpcs().end());
     EXPECT_EQ(std::ranges::distance(fpc_3, dst::fpcs().end()), 5);
@@ -137,10 +134,10 @@ TEST_F(Ranges, GoWithTheAlgorithms) {
 }
 
 // Run under helgrind by scripts/test.
-TEST_F(Ranges, FourThreadsAtOnce) {
-    const auto count = [] {
+TEST_P(Ranges, FourThreadsAtOnce) {
+    const auto count = [this] {
         std::vector<std::ptrdiff_t> counts;
-        each_range([&counts](auto range, auto) { counts.push_back(std::ranges::distance(range)); });
+        each_range(GetParam(), [&counts](auto range, auto) { counts.push_back(std::ranges::distance(range)); });
         return counts;
     };
     const auto alone = count();
@@ -153,6 +150,8 @@ TEST_F(Ranges, FourThreadsAtOnce) {
     for (const auto &result : counts)
         EXPECT_EQ(result, alone);
 }
+
+INSTANTIATE_TEST_SUITE_P(Forms, Ranges, testing::Values(form::xml, form::config));
 
 TEST(Names, OfEnumerators) {
     EXPECT_EQ(dst::name(I2C_TYPE_PSU), "PSUEPM");

@@ -1,42 +1,23 @@
-// The dump of resiliency data, which no XML document holds, and how deep the lines of nested sections stand.
+// How deep the lines of nested sections stand in the dump; the tables of cases compare without indentation.
 #include <gtest/gtest.h>
 
-#include <cstring>
-
-#include "../harness/append.h"
 #include "../harness/load.h"
-#include "chsinfo/libdst_priv.h"
+#include "chsinfo/libdst.h"
 
 namespace {
 
-resil_error_list_t *add_error(resil_module_list_t *module, resil_error_info_t info) {
-    auto *error = append(module->resil_errors, &resil_error_list_t::resil_error_next);
-    error->resil_einfo = info;
-    return error;
-}
-
-TEST(ResiliencyDump, ShowsEveryLevel) {
-    ASSERT_TRUE(model_is_zero());
-    auto *fru = append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
-    fru->resil_finfo = {FRU_TYPE_FPC, 0xB4E, 7};
-    auto *module = append(fru->resil_modules, &resil_module_list_t::resil_module_next);
-    module->resil_minfo = {"bridge", 0xAB12, 9};
-    add_error(module, {0x1F, 200, 0x80000000, 12, 13, "parity"});
-    add_error(module, {0, 1, 2, 3, 4, ""});
-    append(fru->resil_modules, &resil_module_list_t::resil_module_next);
-    append(chs_info.resil_info, &resil_fru_list_t::resil_fru_next);
-
-    chs_info.chs_cinfo.chs_info.enable_resiliency = 4;
-    chs_info.chs_cinfo.chs_info.sib_init_spmb = 5;
-
-    std::string out;
-    {
-        streams_capture streams;
-        display_dst_info();
-        out = streams.out();
-    }
-    libdst_release();
-    EXPECT_TRUE(model_is_zero());
+TEST(NestedDump, ShowsEveryLevelOfResiliencyData) {
+    const std::string out = load_config(R"(RESILIENCY = 4; SIBINITSPMB = 5;
+        RESILMODEL = (
+            { Type = "FPC"; ASSEMBLYID = 0xB4E; NMODULES = 7; MODULE = (
+                { MNAME = "bridge"; KEY = 0xAB12; NERRORS = 9; ERRORS = (
+                    { OFFSET = 0x1F; CHANNEL = 200; THRESHOLD = 0x80000000; LIMIT = 12; PERSIST = 13; DESC = "parity"; },
+                    { CHANNEL = 1; THRESHOLD = 2; LIMIT = 3; PERSIST = 4; } ); },
+                { } ); },
+            { } );
+)")
+                                .out;
+    libchs_release();
     EXPECT_NE(out.find("    <RESILIENCY>4</RESILIENCY>\n    <SIBINITSPMB>5</SIBINITSPMB>\n"), std::string::npos) << out;
     const auto section = out.find("    <RESILMODEL>");
     ASSERT_NE(section, std::string::npos) << out;
@@ -76,7 +57,6 @@ TEST(ResiliencyDump, ShowsEveryLevel) {
 )");
 }
 
-// The tables of cases compare without indentation.
 TEST(NestedDump, LinesStandAsDeepAsTheirElements) {
     const auto dump = load(R"(
         <FRUMODEL><MODEL id="1" type="FAN"/></FRUMODEL><MODEL id="1" type="CHASSIS"/>

@@ -118,6 +118,160 @@ TEST(Memory, IsMissedByTheReaderThatAskedForIt) {
     }
 }
 
+load_result load_tree(const load_case &one) {
+    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
+}
+
+// A configuration tree's lists end early where memory runs out, or the read fails.
+TEST(Memory, CutsTheListsOfAConfigurationTree) {
+    int cut = 0;
+    int failures = 0;
+    for (const load_case &one : all_cases(DST_TEST_DATA "/config")) {
+        SCOPED_TRACE(one);
+        fail_allocations(0, 0);
+        const load_result whole = load_tree(one);
+        const auto whole_dump = whole.dump();
+        const int needed = allocations;
+        libchs_release();
+        for (int n = 1; n <= needed; ++n) {
+            for (int last : {n, INT32_MAX}) {
+                SCOPED_TRACE(std::to_string(n) + (last == n ? " alone" : " and all after it"));
+                fail_allocations(n, last);
+                const load_result result = load_tree(one);
+                fail_allocations(0, 0);
+                if (result.status < 0) {
+                    ASSERT_TRUE(model_is_zero());
+                    ++failures;
+                } else {
+                    auto at = whole_dump.begin();
+                    for (const std::string &line : result.dump()) {
+                        at = std::find(at, whole_dump.end(), line);
+                        ASSERT_TRUE(at != whole_dump.end() || line.find("<NFANS>") != line.npos) << line;
+                    }
+                    ++cut;
+                }
+                libchs_release();
+            }
+        }
+        EXPECT_EQ(load_tree(one).dump(), whole_dump) << "a following load is as the first";
+        libchs_release();
+    }
+    EXPECT_GT(cut, 50);
+    EXPECT_GT(failures, 50);
+}
+
+// What is logged, and whether the devices after the one in need are still read. The FRU model takes the first
+// allocation, the devices the next ones.
+TEST(Memory, IsMissedByTheConfigurationReaderThatAskedForIt) {
+    using lines = std::vector<std::string>;
+    const struct {
+        const char *device;
+        int allocation; // counted from the device's node
+        lines log;
+        bool goes_on;
+    } cases[] = {
+        {R"({ Type = "FPC"; ctrl = "FPC"; })", 1, {}, false},
+        {R"({ Type = "FPC"; ctrl = "FPC"; })",
+         2,
+         {"libconfig_dev_fpc_op: could not allocate the memory!",
+          "libconfig_device_fpc_data_get: failed to parse fpc tag"},
+         true},
+        {R"({ Type = "FPM"; ctrl = "FPM"; })",
+         2,
+         {"libconfig_dev_fpm_op: could not allocate the memory!",
+          "libconfig_device_fpm_data_get: failed to parse fpm tag"},
+         true},
+        {R"({ Type = "FTC"; ctrl = "FTC"; })",
+         2,
+         {"libconfig_dev_ftc_op: could not allocate the memory!",
+          "libconfig_device_ftc_data_get: failed to parse ftc tag"},
+         true},
+        {R"({ Type = "CB"; ctrl = "CB"; })",
+         2,
+         {"libconfig_dev_cb_op: could not allocate the memory!",
+          "libconfig_device_cb_data_get: failed to parse cb tag "},
+         true},
+        {R"({ Type = "SIB"; ctrl = "SIB"; })",
+         2,
+         {"libconfig_dev_sib_op: could not allocate the memory!",
+          "libconfig_device_sib_data_get: failed to parse sib tag "},
+         true},
+        {R"({ Type = "TIB"; ctrl = "TIB"; })",
+         2,
+         {"libconfig_dev_tib_op: could not allocate the memory!\\n",
+          "libconfig_device_tib_data_get: failed to parse tib tag\\n"},
+         true},
+        {R"({ Type = "PEM"; ctrl = "PSUEPM"; })",
+         2,
+         {"libconfig_dev_psu_psuepm_op: could not allocate the memory!",
+          "libconfig_device_psu_data_get: failed to parse pem tag"},
+         true},
+        {R"({ Type = "FAN"; ctrl = "ADT7470"; id = 0; FAN = ( ); })",
+         2,
+         {"libconfig_dev_fan_adt7470_op: could not allocate the memory!"},
+         false},
+        {R"({ Type = "FAN"; ctrl = "GFC0812"; id = 0; FAN = ( ); })",
+         2,
+         {"libconfig_dev_fan_gfc0812_op: could not allocate the memory!"},
+         false},
+        {R"({ Type = "FAN"; ctrl = "9HV0812"; id = 0; FAN = ( ); })",
+         2,
+         {"libconfig_dev_fan_haskel_9hv0812_op: could not allocate the memory!"},
+         false},
+        {R"({ Type = "FAN"; ctrl = "FANSYSPLD"; id = 0; FAN = ( ); })",
+         2,
+         {"libconfig_dev_fan_syspld_op: could not allocate the memory!"},
+         false},
+        {R"({ Type = "TMPSNR"; ctrl = "CORETEMP"; THRESHOLD = ( ); })",
+         2,
+         {"libconfig_dev_tmpsnr_tmp435_op: could not allocate the memory!",
+          "libconfig_device_tmpsnr_op: failed to parse temp sensor tag CORETEMP"},
+         true},
+        {R"({ Type = "TMPSNR"; ctrl = "KXTEMP"; THRESHOLD = ( ); })",
+         2,
+         {"libconfig_dev_tmpsnr_kxchiptemp_op: could not allocate the memory!",
+          "libconfig_device_tmpsnr_op: failed to parse temp sensor tag KXTEMP"},
+         true},
+        {R"({ Type = "TMPSNR"; ctrl = "LM73"; THRESHOLD = ( { LIMIT = ( { } ); } ); })", 4, {}, true},
+        {R"({ Type = "VOLTSNR"; ctrl = "ADS7830"; })",
+         2,
+         {"libconfig_dev_voltsnr_ads7830_op: could not allocate the memory!"},
+         false},
+        {R"({ Type = "LED"; ctrl = "CB"; })", 2, {}, false},
+        {R"({ Type = "BTN"; ctrl = "QVLBTN"; })", 2, {}, false},
+        {R"({ Type = "PIC"; ctrl = "PIC"; })", 2, {}, false},
+    };
+    for (const auto &one : cases) {
+        SCOPED_TRACE(std::string(one.device) + " allocation " + std::to_string(one.allocation));
+        const std::string tree = "DEVICES = ( " + std::string(one.device) +
+                                 R"(, { Type = "PIC"; ctrl = "PIC"; FRUID = 7; } );
+FRUS = ( { id = 0; PARENT = "NULL"; }, { id = 7; PARENT = "NULL"; } );
+)";
+        fail_allocations(1 + one.allocation, 1 + one.allocation);
+        const load_result result = load_config(tree);
+        fail_allocations(0, 0);
+        EXPECT_EQ(texts_of(result.log, LOG_ERR), one.log);
+        EXPECT_EQ(result.status, 0);
+        const pic_module_list_t *pic = chs_info.pic_info.tqh_first;
+        EXPECT_EQ(pic && pic->fru_id == 7, one.goes_on);
+        libchs_release();
+    }
+    const struct {
+        int allocation;
+        const char *line;
+    } resiliency[] = {{1, "libconfig_resilmodel_fru_data_read:749 Memory Allocation Failed"},
+                      {2, "libconfig_resil_module_data_read:700 Memory Allocation Failed"},
+                      {3, "libconfig_resil_error_data_read:651 Memory Allocation Failed"}};
+    for (const auto &one : resiliency) {
+        fail_allocations(one.allocation, one.allocation);
+        const load_result result = load_config("RESILMODEL = ( { MODULE = ( { ERRORS = ( { } ); } ); } );\n");
+        fail_allocations(0, 0);
+        EXPECT_EQ(texts_of(result.log, LOG_ERR), lines{one.line});
+        EXPECT_EQ(result.status, 0);
+        libchs_release();
+    }
+}
+
 bool present(cepm_type_t) { return true; }
 int fill(cepm_data_t *data, cepm_type_t type) {
     data->cepm_type = type;

@@ -17,8 +17,8 @@ fail() {
 }
 
 cmake --install "$build_dir" --prefix "$prefix" >/dev/null
-for file in lib/libdst.so.1 lib/libdst.so lib/pkgconfig/libdst.pc include/chsinfo/libdst.h include/chsinfo/libdst.hpp \
-    include/chsinfo/libdst_priv.h include/chsinfo/chassis_ops.def bin/dstctl share/libdst/chassis_dst_schema.xsd; do
+for file in lib/libdst.so.1 lib/libdst.so lib/libbrio_config.so.0 lib/pkgconfig/libdst.pc include/brio_config.h \
+    include/chsinfo/libdst.h include/chsinfo/libdst.hpp include/chsinfo/libdst_priv.h include/chsinfo/chassis_ops.def bin/dstctl share/libdst/chassis_dst_schema.xsd; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
 
@@ -31,24 +31,24 @@ gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/queries" "$source_dir/tests/inst
 gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/inventory_c" "$documents/inventory.c" "${library[@]}"
 g++ "$@" -std=c++20 "${warnings[@]}" -o "$scratch/inventory_cpp" "$documents/inventory.cpp" "${library[@]}"
 
-# run CLIENT EXAMPLE. The folder of the description is the client's own, in a mount namespace.
+# run CLIENT EXAMPLE FORM, the form being xml or conf. The folder of the description is the client's own, in a mount namespace.
 run() {
     # shellcheck disable=SC2016,SC2046 # expanded by the inner shell; no word at all for root
     unshare --mount $([ "$(id -u)" = 0 ] || echo --map-root-user) bash -ec '
         mount -t tmpfs tmpfs /var
         mkdir /var/platform
-        cp "$1"/*.xml "$2" /var/platform
-        "$3"' inner "$examples/$2" "$prefix/share/libdst/chassis_dst_schema.xsd" "$scratch/$1"
+        cp "$1"/*."$2" "$3" /var/platform
+        "$4"' inner "$examples/$2" "$3" "$prefix/share/libdst/chassis_dst_schema.xsd" "$scratch/$1"
 }
-# prints CLIENT EXAMPLE EXPECTED: what the client prints after the model
+# prints CLIENT EXAMPLE FORM EXPECTED: what the client prints after the model
 prints() {
-    diff "$source_dir/tests/install/$3" <(run "$1" "$2" | sed '1,/^<\/CHASSIS>$/d') || fail "$1 on $2"
+    diff "$source_dir/tests/install/$4" <(run "$1" "$2" "$3" | sed '1,/^<\/CHASSIS>$/d') || fail "$1 on $2, $3"
 }
-client_output=$(run client small)
+client_output=$(run client small xml)
 diff "$source_dir/tests/install/client.expected" <(grep '^client: ' <<<"$client_output") || fail "the client's output"
-prints queries modular queries.expected
-prints inventory_c fixed-1u inventory.expected
-prints inventory_cpp fixed-1u inventory.expected
+prints queries modular xml queries.expected
+prints inventory_c fixed-1u xml inventory.expected
+prints inventory_cpp fixed-1u conf inventory.expected
 for query in $(grep -oE '\blib(chs|dst)_[a-z0-9_]+,' "$source_dir/chsinfo/chassis_ops.def" | tr -d ,); do
     grep -q "$query(" "$source_dir/tests/install/queries.c" || fail "queries.c does not call $query()"
 done
@@ -71,6 +71,14 @@ echo '<schema' >"$scratch/chassis_dst_schema.xsd"
 dstctl 1 show "$scratch/wrong.xml"
 grep -q 'Unable to parse schemas context' "$scratch/err" || fail "the schema beside the document comes first"
 dstctl 0 show --schema "$prefix/share/libdst/chassis_dst_schema.xsd" "$examples/small/chassis_dst.xml"
+dstctl 0 show "$examples/fixed-1u/chassis_dst.conf"
+grep -q 'error: 10: changed ID is !' "$scratch/err" || fail "the simulation tree beside the configuration tree"
+grep -q '^</CHASSIS>$' "$scratch/out" || fail "the model of a configuration tree"
+printf 'CHASSIS = {\nVERSION 1;\n};\n' >"$scratch/wrong.conf"
+dstctl 1 show "$scratch/wrong.conf"
+[ ! -s "$scratch/out" ] || fail "a wrong configuration tree prints nothing on standard output"
+grep -q 'wrong.conf:2: syntax error' "$scratch/err" || fail "what is wrong with a configuration tree"
+dstctl 2 show --schema "$prefix/share/libdst/chassis_dst_schema.xsd" "$examples/fixed-1u/chassis_dst.conf"
 dstctl 2 show "$scratch/absent.xml"
 dstctl 2 show --schema "$scratch/absent.xsd" "$scratch/wrong.xml"
 dstctl 2 show "$scratch"

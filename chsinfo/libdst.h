@@ -1709,7 +1709,7 @@ extern DST_API epm_data_init_ops_t epm_null_ops;
 /* ---- Initialisation and release ---- */
 
 /** Reads the description and makes it available: "/var/platform/chassis_dst.xml" if it is readable, else
- * "/var/platform/chassis_dst.conf". Prints the model on standard output, then fills the EPM list. Releases first
+ * "/var/platform/chassis_dst.conf", with the simulation tree "/var/platform/chassis_dst_sim.conf". Prints the model on standard output, then fills the EPM list. Releases first
  * what an earlier call read. A failing read leaves no model; call again to retry. The chosen file is logged at
  * LOG_INFO.
  *
@@ -1718,7 +1718,8 @@ extern DST_API epm_data_init_ops_t epm_null_ops;
  *     parse configuration file!";
  *   - a description that cannot be read or linked: what the reader returned, or -1 where that was positive; at
  *     LOG_ERR a line from each function on the way out, innermost first, then "Could not parse configuration file!".
- *     The verdict on an XML document goes to standard output, its errors to standard error;
+ *     The verdict on an XML document goes to standard output, its errors to standard error; what the
+ *     configuration-tree library finds wrong with a file is logged at LOG_ERR with file and line;
  *   - failing EPM initialisation: its value; the model stays available.
  *
  * An internal error of the configuration library ends the process with status 1 after a line at LOG_CRIT. */

@@ -30,8 +30,12 @@ lines followed_by(lines first, const lines &rest) {
 
 class Load : public Test {
   protected:
+    void SetUp() override { remove_files(); }
     void TearDown() override {
         libchs_release();
+        remove_files();
+    }
+    static void remove_files() {
         for (const auto &file : std::filesystem::directory_iterator("/var/platform"))
             std::filesystem::remove(file);
     }

@@ -63,7 +63,7 @@ static int libdst_dev_fru_type_attr(xmlNodePtr node, fru_type_t *type) {
 
 static int libdst_dev_fru_per_tag(xmlDocPtr doc, xmlNodePtr node, libdst_chs_info_t *, fru_module_list_t *entry,
                                   bool *logical_slot_seen) {
-    for (const xmlNode *child = node->children; child; child = child->next)
+    for (const xmlNode *child = dst::content_of(node); child; child = child->next)
         if (dst::name_is(child, logical_slot_element))
             *logical_slot_seen = true;
     return dst::walk(__func__, dst_tag_fruinfo_op, doc, node, entry, "failed in parsing root tag!");

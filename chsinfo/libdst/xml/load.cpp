@@ -1,8 +1,11 @@
 #include "load.h"
 
+#include <cstring>
+#include <sys/stat.h>
 #include <utility>
 
 #include <libxml/parser.h>
+#include <libxml/uri.h>
 #include <libxml/xinclude.h>
 #include <libxml/xmlerror.h>
 #include <libxml/xmlschemas.h>
@@ -47,22 +50,81 @@ template <class Callback> static Callback print_to_stream() {
     return reinterpret_cast<Callback>(reinterpret_cast<void (*)()>(std::fprintf));
 }
 
-// libxml2 hands out what it has of a document when memory runs out while it reads it: that is no document.
-static bool out_of_memory() {
-    const xmlError *error = xmlGetLastError();
-    return error && error->code == XML_ERR_NO_MEMORY;
+// Whether there is something by this name that is no regular file: to open it might wait forever.
+static bool is_irregular(const char *path) {
+    struct stat found;
+    return path && (std::strcmp(path, "-") == 0 || (stat(path, &found) == 0 && !S_ISREG(found.st_mode)));
 }
 
-// The document with everything that XInclude brings in, which never comes from the network; null when it cannot be
-// read.
+static xmlExternalEntityLoader load_regular_file;
+
+// Refuses, before it is opened, whatever libxml2 would load that is no local regular file.
+static xmlParserInputPtr load_guarded(const char *url, const char *id, xmlParserCtxtPtr parser) {
+    const char *path = url;
+    for (const char *scheme : {"file://localhost/", "file:///"})
+        if (path && std::strncmp(path, scheme, std::strlen(scheme)) == 0)
+            path += std::strlen(scheme) - 1;
+    const xml_text unescaped(BAD_CAST xmlURIUnescapeString(path, 0, nullptr)); // libxml2 tries both
+    if (!path || std::strstr(path, "://") || is_irregular(path) || is_irregular(unescaped.get())) {
+        xmlGenericError(xmlGenericErrorContext, "%s: not a local regular file\n", url);
+        return nullptr;
+    }
+    return load_regular_file(url, id, parser);
+}
+
+// Has libxml2 load local regular files alone; the host's loader, which still loads them, is put back.
+class regular_files_only {
+  public:
+    regular_files_only() {
+        load_regular_file = xmlGetExternalEntityLoader();
+        xmlSetExternalEntityLoader(load_guarded);
+    }
+    ~regular_files_only() { xmlSetExternalEntityLoader(load_regular_file); }
+    regular_files_only(const regular_files_only &) = delete;
+    regular_files_only &operator=(const regular_files_only &) = delete;
+};
+
+// Notices memory that ran out although a later error hides it. The messages go on to the host's function.
+class memory_watch {
+  public:
+    memory_watch() : print_(xmlGenericError), context_(xmlGenericErrorContext) {
+        xmlResetLastError();
+        xmlSetGenericErrorFunc(this, notice);
+    }
+    ~memory_watch() { xmlSetGenericErrorFunc(context_, print_); }
+    memory_watch(const memory_watch &) = delete;
+    memory_watch &operator=(const memory_watch &) = delete;
+    bool ran_out() const { return ran_out_ || out_of_memory(); }
+
+  private:
+    [[gnu::format(printf, 2, 3)]] static void notice(void *watch, const char *format, ...) {
+        auto *self = static_cast<memory_watch *>(watch);
+        self->ran_out_ = self->ran_out_ || out_of_memory();
+        char message[1024]; // what libxml2 prints at once is shorter, but for long names
+        va_list arguments;
+        va_start(arguments, format);
+        std::vsnprintf(message, sizeof message, format, arguments);
+        va_end(arguments);
+        xmlSetGenericErrorFunc(self->context_, self->print_); // libxml2's own function looks at the context that is set
+        self->print_(self->context_, "%s", message);
+        xmlSetGenericErrorFunc(self, notice);
+    }
+
+    xmlGenericErrorFunc print_;
+    void *context_;
+    bool ran_out_ = false;
+};
+
+// The document with everything that XInclude brings in; null when it cannot be read, or not in full for want of memory:
+// libxml2 hands out what it has then.
 static document read_document(const char *func, const char *path, int options) {
-    xmlResetLastError();
+    const memory_watch memory;
     document doc(xmlReadFile(path, nullptr, options));
-    if (!doc || out_of_memory())
+    if (!doc || memory.ran_out())
         return nullptr;
     if (xmlXIncludeProcessFlags(doc.get(), XML_PARSE_NONET) < 1)
         log_at(LOG_DEBUG, func, "Could not apply the XInclude process");
-    return out_of_memory() ? nullptr : std::move(doc);
+    return memory.ran_out() ? nullptr : std::move(doc);
 }
 
 xml_source fixed_source() { return {xml_path, schema_path, stdout, stdout}; }
@@ -139,6 +201,7 @@ static int read_model(const char *func, const char *path, libdst_chs_info_t *mod
 int libdst_xml_parse(const dst::xml_source &source) {
     libdst_chs_info_t *model = libdst_get_chs_info();
     libdst_info_init(model);
+    const dst::regular_files_only guard;
     int rc = dst::check(__func__, libdst_xml_validation(source), "Failed to validate Device Specification XML");
     if (rc >= 0)
         rc = read_model(__func__, source.document, model);

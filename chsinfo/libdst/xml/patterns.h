@@ -39,7 +39,7 @@ int read_list(const char *func, const char *element, xmlNodePtr section, Head &l
     release_member(list);
     list_init(list);
     int rc = 0;
-    for (xmlNodePtr child = section->children; child && rc >= 0; child = child->next) {
+    for (xmlNodePtr child = content_of(section); child && rc >= 0; child = child->next) {
         if (child->type != XML_ELEMENT_NODE || !name_is(child, element))
             continue;
         rc = append_filled(func, list, [&](auto *entry) { return read_entry(child, entry); });

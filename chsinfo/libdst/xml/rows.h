@@ -29,14 +29,17 @@ template <std::size_t N> char *into(char (&text)[N]) {
 }
 
 // Every element walk: each child that the table knows (a node without a name, CDATA, is none) goes to its handler, in
-// document order, until one fails, which is logged. Returns the last handler's result, 0 when none ran.
+// document order, until one fails, or memory ran out beneath it; which is logged. Returns the last handler's result, 0
+// when none ran.
 template <class T>
 int walk(const char *func, const tag_entry<T> *table, xmlDocPtr doc, xmlNodePtr element, T *target,
          const char *failure) {
     int rc = 0;
-    for (xmlNodePtr child = element->children; child && rc >= 0; child = child->next)
-        if (const tag_entry<T> *entry = find(table, reinterpret_cast<const char *>(child->name)))
-            rc = check(func, entry->tag_parser_op(doc, child, target), failure);
+    for (xmlNodePtr child = content_of(element); child && rc >= 0; child = child->next)
+        if (const tag_entry<T> *entry = find(table, reinterpret_cast<const char *>(child->name))) {
+            rc = entry->tag_parser_op(doc, child, target);
+            rc = check(func, rc >= 0 && out_of_memory() ? -1 : rc, failure);
+        }
     return rc;
 }
 

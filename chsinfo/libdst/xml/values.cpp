@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <libxml/xmlerror.h>
 
 namespace dst {
 
-xml_text element_text(xmlDocPtr doc, xmlNodePtr node) { return xml_text(xmlNodeListGetString(doc, node->children, 1)); }
+bool out_of_memory() {
+    const xmlError *error = xmlGetLastError();
+    return error && error->code == XML_ERR_NO_MEMORY;
+}
+
+xml_text element_text(xmlDocPtr doc, xmlNodePtr node) {
+    return xml_text(xmlNodeListGetString(doc, content_of(node), 1));
+}
 
 xml_text attribute(xmlNodePtr node, const char *name) {
     return xml_text(xmlGetProp(node, reinterpret_cast<const xmlChar *>(name)));

@@ -40,6 +40,13 @@ class xml_text {
     std::unique_ptr<xmlChar, xml_text_free> text_;
 };
 
+// Where an element's content begins; null for any other node, whose children (an entity reference's declaration) are
+// none.
+inline xmlNodePtr content_of(const xmlNode *node) { return node->type == XML_ELEMENT_NODE ? node->children : nullptr; }
+
+// Whether libxml2 missed memory since its last error was reset: what it handed out since may be cut or missing.
+bool out_of_memory();
+
 xml_text element_text(xmlDocPtr doc, xmlNodePtr node);
 xml_text attribute(xmlNodePtr node, const char *name);
 

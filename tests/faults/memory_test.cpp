@@ -314,7 +314,9 @@ char *duplicate(const char *text) { return fails() ? nullptr : strdup(text); }
 
 TEST(Memory, RunsOutInLibxml2) {
     xmlMemSetup(std::free, xml_memory::allocate, xml_memory::reallocate, xml_memory::duplicate);
+    write_platform_file("more.xml", R"(<FRUMODEL><MODEL id="1" type="FAN"><NAME>included</NAME></MODEL></FRUMODEL>)");
     const std::string document = R"(<DEVICE type="i2c"><I2CDEV id="1" type="CB"><NAME>a &lt; b</NAME></I2CDEV></DEVICE>
+        <FEATURE>7</FEATURE><xi:include xmlns:xi="http://www.w3.org/2001/XInclude" href="more.xml"/>
         <DEVICE type="FRU"><FRUDEV id="1" type="CB"><PARENT>NULL</PARENT><I2CDEVID>1</I2CDEVID></FRUDEV></DEVICE>
         <VERSION>3</VERSION><DEVICE type="PIC" ctrl="PIC" id="1"><FRUID>1</FRUID></DEVICE>)";
     const auto whole = load(document).dump();

@@ -127,6 +127,25 @@ static document read_document(const char *func, const char *path, int options) {
     return memory.ran_out() ? nullptr : std::move(doc);
 }
 
+// Nodes and attributes of a document.
+static std::size_t size_of(const xmlDoc *doc) {
+    std::size_t count = 0;
+    const auto *root = reinterpret_cast<const xmlNode *>(doc);
+    for (const xmlNode *node = doc->children; node && node != root;) {
+        ++count;
+        for (const xmlAttr *attr = node->type == XML_ELEMENT_NODE ? node->properties : nullptr; attr; attr = attr->next)
+            ++count;
+        if (xmlNodePtr child = content_of(node)) {
+            node = child;
+            continue;
+        }
+        while (node != root && !node->next)
+            node = node->parent;
+        node = node == root ? root : node->next;
+    }
+    return count;
+}
+
 xml_source fixed_source() { return {xml_path, schema_path, stdout, stdout}; }
 
 } // namespace dst
@@ -139,7 +158,7 @@ void libxml_init(void) {
 void libxml_shutdown(void) { xmlCleanupParser(); }
 
 // The objects are declared in the reverse order of their release.
-int libdst_xml_validation(const dst::xml_source &source) {
+int libdst_xml_validation(const dst::xml_source &source, std::size_t *size) {
     const dst::line_numbers numbered;
     const dst::schema_types types;
     dst::schema schema;
@@ -175,6 +194,8 @@ int libdst_xml_validation(const dst::xml_source &source) {
                  : verdict > 0 ? "%s fails in validation!\n"
                                : "%s validation generated an internal error!\n",
                  source.document);
+    if (verdict == 0 && size)
+        *size = dst::size_of(doc.get());
     return verdict == 0 ? 0 : -1;
 }
 
@@ -186,11 +207,13 @@ int libdst_root_handler(xmlDocPtr doc, libdst_chs_info_t *model) {
     return dst::check(__func__, rc < 0 ? -1 : rc, "Failed to find the root in Device Specification!");
 }
 
-static int read_model(const char *func, const char *path, libdst_chs_info_t *model) {
+// `size` is that of the valid document: one of another size is another one, or not the whole of it, since libxml2 loses
+// inclusions in silence when memory runs out.
+static int read_model(const char *func, const char *path, std::size_t size, libdst_chs_info_t *model) {
     libxml_init();
     // The same tree as with the plain parse, leaner, and whatever the host did to the parser's defaults.
     const dst::document doc = dst::read_document(func, path, XML_PARSE_COMPACT);
-    if (!doc)
+    if (!doc || dst::size_of(doc.get()) != size)
         return dst::check(func, -1, "Unable to parse XML file");
     const int rc = libdst_root_handler(doc.get(), model);
     if (rc < 0)
@@ -202,9 +225,10 @@ int libdst_xml_parse(const dst::xml_source &source) {
     libdst_chs_info_t *model = libdst_get_chs_info();
     libdst_info_init(model);
     const dst::regular_files_only guard;
-    int rc = dst::check(__func__, libdst_xml_validation(source), "Failed to validate Device Specification XML");
+    std::size_t size = 0;
+    int rc = dst::check(__func__, libdst_xml_validation(source, &size), "Failed to validate Device Specification XML");
     if (rc >= 0)
-        rc = read_model(__func__, source.document, model);
+        rc = read_model(__func__, source.document, size, model);
     if (rc < 0)
         libdst_release();
     libxml_shutdown();

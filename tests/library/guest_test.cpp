@@ -1,0 +1,175 @@
+// What docs/host-contract.md promises to the process that the library lives in.
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+#include <libxml/xmlschemas.h>
+#include <locale.h>
+#include <malloc.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "../harness/load.h"
+#include "chsinfo/libdst_priv.h"
+
+extern "C" [[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
+
+namespace {
+
+std::size_t heap_in_use() {
+    if (__sanitizer_get_current_allocated_bytes)
+        return __sanitizer_get_current_allocated_bytes();
+    return mallinfo2().uordblks;
+}
+
+// What must be after a call as it was before it.
+struct host_state {
+    std::vector<std::string> descriptors;
+    std::string environment, locale, folder;
+    mode_t mask;
+    std::vector<void (*)(int)> handlers;
+    sigset_t blocked;
+    std::ptrdiff_t threads;
+
+    static host_state now() {
+        host_state state{};
+        for (int fd = 0; fd < 256; ++fd) {
+            char target[256] = "";
+            const std::string link = "/proc/self/fd/" + std::to_string(fd);
+            if (readlink(link.c_str(), target, sizeof target - 1) > 0)
+                state.descriptors.push_back(std::to_string(fd) + " " + target);
+        }
+        for (char **variable = environ; *variable; ++variable)
+            state.environment += std::string(*variable) + "\n";
+        state.locale = setlocale(LC_ALL, nullptr);
+        state.folder = std::filesystem::current_path();
+        umask(state.mask = umask(0));
+        for (int signal = 1; signal < NSIG; ++signal) {
+            struct sigaction action {};
+            sigaction(signal, nullptr, &action);
+            state.handlers.push_back(action.sa_handler);
+        }
+        sigprocmask(SIG_SETMASK, nullptr, &state.blocked);
+        state.threads = std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+        return state;
+    }
+    void expect_same(const host_state &before) const {
+        EXPECT_EQ(descriptors, before.descriptors);
+        EXPECT_EQ(environment, before.environment);
+        EXPECT_EQ(locale, before.locale);
+        EXPECT_EQ(folder, before.folder);
+        EXPECT_EQ(mask, before.mask);
+        EXPECT_EQ(handlers, before.handlers);
+        EXPECT_EQ(std::memcmp(&blocked, &before.blocked, sizeof blocked), 0);
+        EXPECT_EQ(threads, before.threads);
+        errno = 0;
+        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
+        EXPECT_EQ(errno, ECHILD);
+    }
+};
+
+constexpr char wrong_tree[] = "CHASSIS = { VERSION 1; };";
+
+struct step {
+    const char *name;
+    int status;
+    int (*run)();
+};
+const step steps[] = {
+    {"an XML document", 0, [] { return load_example("modular").status; }},
+    {"one that breaks the schema", -1, [] { return load_example("fixed-1u").status, load("<VERSION/>").status; }},
+    {"one that is no XML", -1, [] { return load("<").status; }},
+    {"a configuration tree", 0, [] { return load_example("modular", form::config).status; }},
+    {"one that does not parse", -1, [] { return load_config(wrong_tree, wrong_tree).status; }},
+    {"neither", -1, [] { return load_config("", ""), write_platform_file("chassis_dst.conf", ""), load().status; }},
+};
+
+class Guest : public testing::Test {
+  protected:
+    void TearDown() override {
+        libchs_release();
+        for (const char *name : {"chassis_dst.xml", "chassis_dst.conf", "chassis_dst_sim.conf"})
+            write_platform_file(name, "");
+    }
+};
+
+TEST_F(Guest, LeavesTheProcessAsItWas) {
+    setlocale(LC_ALL, "C.UTF-8");
+    const host_state before = host_state::now();
+    for (const step &one : steps) {
+        SCOPED_TRACE(one.name);
+        EXPECT_EQ(one.run() < 0, one.status < 0);
+        host_state::now().expect_same(before);
+        uint8_t bus = 0, device = 0, function = 0;
+        static_cast<void>(get_pcie_bus_device_info("no such device", &bus, &device, &function));
+        for (fru_info_t *fru = libchs_fru_info_get_next(nullptr); fru; fru = libchs_fru_info_get_next(fru))
+            libchs_fru_fan_info_get_next(fru->id, nullptr);
+        libchs_release();
+        host_state::now().expect_same(before);
+    }
+}
+
+TEST_F(Guest, AThousandLivesLeaveNoMemory) {
+    std::size_t settled = 0;
+    for (int life = 0; life < 1000; ++life) {
+        const bool tree = life % 2;
+        if (tree)
+            load_config("DEVICES = ( { Type = \"PIC\"; ctrl = \"PIC\"; FRUID = 1; } );\nFRUS = ( { id = 1; PARENT = "
+                        "\"NULL\"; SIM_FRU_DATA = ( { } ); } );\n");
+        else
+            load("<DEVICE type='FRU'><FRUDEV id='1' type='PIC'/></DEVICE><DEVICE type='PIC' ctrl='PIC' id='1'/>");
+        libchs_release();
+        if (life == 199) // the allocator has settled
+            settled = heap_in_use();
+        if (life > 199 && tree) {
+            ASSERT_LE(heap_in_use(), settled + 4096) << life;
+        }
+    }
+}
+
+// libxml2 in the host's own hands.
+
+void print_nothing(void *, const char *, ...) {}
+
+xmlParserInputPtr load_nothing(const char *, const char *, xmlParserCtxtPtr) { return nullptr; }
+
+TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
+    const auto text_of_root = [](xmlDocPtr doc) {
+        xmlChar *text = xmlNodeGetContent(xmlDocGetRootElement(doc));
+        std::string copy = reinterpret_cast<char *>(text);
+        xmlFree(text);
+        return copy;
+    };
+    const auto parse = [](const char *text) { return xmlReadMemory(text, strlen(text), nullptr, nullptr, 0); };
+    xmlDocPtr mine = parse("<a>before</a>");
+    const xmlExternalEntityLoader loader = xmlGetExternalEntityLoader();
+    for (const step &one : steps) {
+        SCOPED_TRACE(one.name);
+        xmlLineNumbersDefault(0);
+        one.run();
+        EXPECT_EQ(xmlLineNumbersDefault(0), 0) << "the host's own choice";
+        EXPECT_EQ(xmlGetExternalEntityLoader(), loader);
+        EXPECT_EQ(xmlGetLastError(), nullptr);
+        EXPECT_EQ(text_of_root(mine), "before");
+        xmlDocPtr between = parse("<a>between</a>");
+        EXPECT_EQ(text_of_root(between), "between");
+        xmlFreeDoc(between);
+    }
+    xmlFreeDoc(mine);
+
+    xmlSetExternalEntityLoader(load_nothing);
+    xmlSetGenericErrorFunc(&mine, print_nothing);
+    EXPECT_LT(load("").status, 0) << "the host's loader loads the files, too";
+    EXPECT_EQ(xmlGetExternalEntityLoader(), load_nothing);
+    EXPECT_EQ(xmlGenericError, print_nothing);
+    EXPECT_EQ(xmlGenericErrorContext, &mine);
+    xmlSetExternalEntityLoader(loader);
+    xmlSetGenericErrorFunc(nullptr, nullptr);
+    xmlCleanupParser();
+}
+
+} // namespace

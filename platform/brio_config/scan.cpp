@@ -1,4 +1,4 @@
-#include "numbers.h"
+#include "scan.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -7,11 +7,17 @@
 
 namespace brio {
 
+// libconfig reads about 2000 levels.
+constexpr int max_depth = 1000;
+
 static bool starts_with(const char *text, const char *start) {
     return std::strncmp(text, start, std::strlen(start)) == 0;
 }
 
+static bool is_one_of(char c, const char *characters) { return c && std::strchr(characters, c); }
+static bool is_blank(char c) { return is_one_of(c, " \t\r\n\f"); }
 static bool is_digit(char c) { return c >= '0' && c <= '9'; }
+static bool is_hex_digit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 static bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 static bool starts_name(char c) { return is_letter(c) || c == '*'; }
 static bool continues_name(char c) { return starts_name(c) || is_digit(c) || c == '-' || c == '_'; }
@@ -29,11 +35,12 @@ static char *skip_exponent(char *text) {
     return is_digit(*digits) ? skip_digits(digits) : text;
 }
 
+// Null when there is no end.
 static char *skip_string(char *quote) {
     char *text = quote + 1;
     while (*text && *text != '"')
         text += *text == '\\' && text[1] ? 2 : 1;
-    return *text ? text + 1 : text;
+    return *text ? text + 1 : nullptr;
 }
 
 static char *skip_comment(char *text) {
@@ -41,8 +48,8 @@ static char *skip_comment(char *text) {
     return end ? end + 2 : text + std::strlen(text);
 }
 
-// Returns the end of the number, or of the sign or point that is none.
-static char *normalise_number(char *number) {
+// Returns the end of the number, or of the sign that is none.
+static char *rewrite_number(char *number) {
     const bool hexadecimal = starts_with(number, "0x") || starts_with(number, "0X");
     char *end;
     const long long value = std::strtoll(number, &end, hexadecimal ? 16 : 10);
@@ -51,39 +58,66 @@ static char *normalise_number(char *number) {
     if (*end == '.')
         return skip_exponent(skip_digits(end + 1));
     char *const exponent_end = skip_exponent(end);
-    if (exponent_end != end || !is_digit(end[-1]))
+    if (exponent_end != end || !is_hex_digit(end[-1]))
         return exponent_end;
-    char plain[sizeof "0xFFFFFFFF"] = "1e999"; // no longer than the numbers that it replaces
-    if (value >= INT32_MIN && value <= UINT32_MAX)
-        std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
     for (int suffix = 0; suffix < 2 && *end == 'L'; ++suffix)
         *end++ = ' ';
     if (value < INT32_MIN || value > INT32_MAX) {
+        char plain[sizeof "0xFFFFFFFF"] = "1e999"; // no longer than the number that it replaces
+        if (value > 0 && value <= UINT32_MAX && !continues_name(*end))
+            std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
         std::memset(number, ' ', static_cast<std::size_t>(end - number));
         std::memcpy(number, plain, std::strlen(plain));
     }
     return end;
 }
 
-char *normalise(char *text) {
+refusal prepare(char *text) {
+    char last = '\0'; // of the token before
+    char brackets[max_depth];
+    int depth = 0;
     for (char *at = text; *at;) {
         if ((at == text || at[-1] == '\n') && starts_with(at + std::strspn(at, " \t"), "@include"))
-            return at;
-        if (*at == '#' || starts_with(at, "//"))
+            return {"@include is not supported", at};
+        if (*at == '#' || starts_with(at, "//")) {
             at += std::strcspn(at, "\n");
-        else if (starts_with(at, "/*"))
+            continue;
+        }
+        if (starts_with(at, "/*")) {
             at = skip_comment(at);
-        else if (*at == '"')
-            at = skip_string(at);
-        else if (starts_name(*at))
+            continue;
+        }
+        if (is_blank(*at)) {
+            ++at;
+            continue;
+        }
+        const char first = *at;
+        if (first == '"') {
+            char *const end = skip_string(at);
+            if (!end)
+                return {"a text without an end", at};
+            const bool in_values = last == ',' && depth > 0 && brackets[depth - 1] != '{';
+            if (!in_values && !is_one_of(last, "=:([\""))
+                *at = '!';
+            at = end;
+        } else if (starts_name(first)) {
             while (continues_name(*at))
                 ++at;
-        else if (is_digit(*at) || *at == '.' || *at == '+' || *at == '-')
-            at = normalise_number(at);
-        else
+        } else if (is_digit(first) || is_one_of(first, "+-.")) {
+            at = rewrite_number(at);
+        } else {
+            if (is_one_of(first, "{([")) {
+                if (depth == max_depth)
+                    return {"nested too deeply", at};
+                brackets[depth++] = first;
+            } else if (is_one_of(first, "})]") && depth > 0) {
+                --depth;
+            }
             ++at;
+        }
+        last = first;
     }
-    return nullptr;
+    return {};
 }
 
 } // namespace brio

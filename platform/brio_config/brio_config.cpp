@@ -279,8 +279,7 @@ brio_cfg_status_t brio_config_array_element_get(void *handle, const char *key, i
     return visit(element(member(handle, key), index), context, callback);
 }
 
-brio_cfg_status_t brio_config_array_element_read(void *array, int index, void **result,
-                                                 void *(*reader)(void *handle)) {
+brio_cfg_status_t brio_config_array_element_read(void *array, int index, void **result, void *(*reader)(void *handle)) {
     if (!well_used(__func__, {{"null array", array}, {"null result", result}, {"null reader", reader}}))
         return BRIO_CONFIG_FAIL;
     return store_made(element(static_cast<config_setting_t *>(array), index), result, reader);

@@ -50,10 +50,10 @@ typedef enum brio_cfg_status_e BRIO_ENUM_INT {
 typedef brio_cfg_status_t (*brio_config_get_fn_t)(void *handle, void *context);
 
 /** Forgets the trees of an earlier call and reads the file `path`, and the file chassis_dst_sim.conf in the folder
- * `sim_dir`, where there is one, as the simulation tree. `options` must be 0. `assert_fn` is told of misuse, here and in
- * later calls, with what is wrong and the line of this library that noticed; null: nobody is told.
- * A file that is missing, no regular file, unreadable, empty or wrong gives no tree; what is wrong with an existing one
- * is logged at LOG_ERR. Returns BRIO_CONFIG_SUCCESS when `path` gave a tree. */
+ * `sim_dir`, where there is one, as the simulation tree. `options` must be 0. `assert_fn` is told of misuse, here and
+ * in later calls, with what is wrong and the line of this library that noticed; null: nobody is told. A file that is
+ * missing, no regular file, unreadable, empty or wrong gives no tree; what is wrong with an existing one is logged at
+ * LOG_ERR. Returns BRIO_CONFIG_SUCCESS when `path` gave a tree. */
 BRIO_API brio_cfg_status_t brio_config_init(const char *path, int options, const char *sim_dir,
                                             void (*assert_fn)(const char *error_str, int error_line));
 
@@ -64,8 +64,8 @@ BRIO_API void *brio_config_handle_get(const char *name);
 BRIO_API void *brio_config_handle_sim_get(const char *name);
 
 /** Stores the integer of a group's key. Values from -2^31 to 2^32-1 are taken, the upper half as the negative number
- * with the same bits. Fails, with `value` as it was, when there is no such key, the value is no integer or does not fit,
- * or the handle is no group. */
+ * with the same bits. Fails, with `value` as it was, when there is no such key, the value is no integer or does not
+ * fit, or the handle is no group. */
 BRIO_API brio_cfg_status_t brio_config_int_read(void *handle, const char *key, int32_t *value);
 
 /** Stores the text of a group's key, which belongs to the library. A failure stores null. */

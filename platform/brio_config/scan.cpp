@@ -43,9 +43,17 @@ static char *skip_string(char *quote) {
     return *text ? text + 1 : nullptr;
 }
 
-static char *skip_comment(char *text) {
+// Null when there is no end.
+static char *skip_block_comment(char *text) {
     char *const end = std::strstr(text + 2, "*/");
-    return end ? end + 2 : text + std::strlen(text);
+    return end ? end + 2 : nullptr;
+}
+
+// At the end of a file, libconfig takes a comment without a line feed for an error.
+static char *skip_line_comment(char *text) {
+    const std::size_t length = std::strcspn(text, "\n");
+    std::memset(text, ' ', length);
+    return text + length;
 }
 
 // Returns the end of the number, or of the sign that is none.
@@ -80,11 +88,14 @@ refusal prepare(char *text) {
         if ((at == text || at[-1] == '\n') && starts_with(at + std::strspn(at, " \t"), "@include"))
             return {"@include is not supported", at};
         if (*at == '#' || starts_with(at, "//")) {
-            at += std::strcspn(at, "\n");
+            at = skip_line_comment(at);
             continue;
         }
         if (starts_with(at, "/*")) {
-            at = skip_comment(at);
+            char *const end = skip_block_comment(at);
+            if (!end)
+                return {"a comment without an end", at};
+            at = end;
             continue;
         }
         if (is_blank(*at)) {

@@ -45,8 +45,10 @@ static char *skip_string(char *quote) {
 
 // Null when there is no end.
 static char *skip_block_comment(char *text) {
-    char *const end = std::strstr(text + 2, "*/");
-    return end ? end + 2 : nullptr;
+    for (text += 2; *text; ++text)
+        if (starts_with(text, "*/"))
+            return text + 2;
+    return nullptr;
 }
 
 // At the end of a file, libconfig takes a comment without a line feed for an error.

@@ -15,7 +15,7 @@
 #include <syslog.h>
 #include <unistd.h>
 
-#include "numbers.h"
+#include "scan.h"
 
 namespace {
 
@@ -132,8 +132,8 @@ int line_of(const char *text, const char *position) {
 bool parse(config_t *config, const char *path, char *text, std::size_t size) {
     if (const void *nul = std::memchr(text, '\0', size))
         return refuse(path, line_of(text, static_cast<const char *>(nul)), "a NUL byte");
-    if (const char *include = brio::normalise(text))
-        return refuse(path, line_of(text, include), "@include is not supported");
+    if (const brio::refusal refusal = brio::prepare(text); refusal.reason)
+        return refuse(path, line_of(text, refusal.position), refusal.reason);
     // The second defence: nothing can be opened in there.
     config_set_include_dir(config, "/dev/null");
     return config_read_string(config, text) || refuse(path, config_error_line(config), config_error_text(config));
@@ -279,8 +279,7 @@ brio_cfg_status_t brio_config_array_element_get(void *handle, const char *key, i
     return visit(element(member(handle, key), index), context, callback);
 }
 
-brio_cfg_status_t brio_config_array_element_read(void *array, int index, void **result,
-                                                 void *(*reader)(void *handle)) {
+brio_cfg_status_t brio_config_array_element_read(void *array, int index, void **result, void *(*reader)(void *handle)) {
     if (!well_used(__func__, {{"null array", array}, {"null result", result}, {"null reader", reader}}))
         return BRIO_CONFIG_FAIL;
     return store_made(element(static_cast<config_setting_t *>(array), index), result, reader);

@@ -17,8 +17,12 @@
  *         MC_MUXADDR = [ 0x70, 0x71 ];       an array of integers
  *     };
  *
- * The file is read whole. "@include" is not supported, nor is a NUL byte. Memory that runs out inside libconfig is
- * beyond this library: libconfig 1.5 does not check its allocations.
+ * Numbers are written as in the C locale, whatever the host's is. An integer that no read takes (see
+ * brio_config_int_read()) fails there alone; in an array of integers it is an error of the file. A text or a comment
+ * without an end, nesting deeper than 1000, a NUL byte and "@include" (but in a text or a comment) are errors too.
+ *
+ * The file is read whole, up to 2 GB. Memory that runs out inside libconfig is beyond this library: libconfig 1.5 does
+ * not check its allocations. Its time grows with the square of a group's members.
  */
 #ifndef BRIO_CONFIG_H
 #define BRIO_CONFIG_H
@@ -50,10 +54,11 @@ typedef enum brio_cfg_status_e BRIO_ENUM_INT {
 typedef brio_cfg_status_t (*brio_config_get_fn_t)(void *handle, void *context);
 
 /** Forgets the trees of an earlier call and reads the file `path`, and the file chassis_dst_sim.conf in the folder
- * `sim_dir`, where there is one, as the simulation tree. `options` must be 0. `assert_fn` is told of misuse, here and in
- * later calls, with what is wrong and the line of this library that noticed; null: nobody is told.
- * A file that is missing, no regular file, unreadable, empty or wrong gives no tree; what is wrong with an existing one
- * is logged at LOG_ERR. Returns BRIO_CONFIG_SUCCESS when `path` gave a tree. */
+ * `sim_dir`, where there is one, as the simulation tree. A null `path` or `sim_dir` and `options` other than 0 are
+ * misuse. `assert_fn` is told of misuse, here and in later calls, with what is wrong and the line of this library that
+ * noticed; null: nobody is told. A file that is missing, no regular file, unreadable, empty or wrong gives no tree;
+ * what is wrong with one that is there and not empty is logged by syslog() at LOG_ERR, as "FILE:LINE: reason" or, when
+ * it cannot be read, "FILE: reason". Returns BRIO_CONFIG_SUCCESS when `path` gave a tree. */
 BRIO_API brio_cfg_status_t brio_config_init(const char *path, int options, const char *sim_dir,
                                             void (*assert_fn)(const char *error_str, int error_line));
 
@@ -64,15 +69,15 @@ BRIO_API void *brio_config_handle_get(const char *name);
 BRIO_API void *brio_config_handle_sim_get(const char *name);
 
 /** Stores the integer of a group's key. Values from -2^31 to 2^32-1 are taken, the upper half as the negative number
- * with the same bits. Fails, with `value` as it was, when there is no such key, the value is no integer or does not fit,
- * or the handle is no group. */
+ * with the same bits. Fails, with `value` as it was, when there is no such key, the value is no integer or does not
+ * fit, or the handle is no group. */
 BRIO_API brio_cfg_status_t brio_config_int_read(void *handle, const char *key, int32_t *value);
 
 /** Stores the text of a group's key, which belongs to the library. A failure stores null. */
 BRIO_API brio_cfg_status_t brio_config_str_read(void *handle, const char *key, const char **value);
 
 /** Stores the floating-point value of a group's key. An integer is none: it must be written with a point or an
- * exponent. A failure leaves `value` as it was. */
+ * exponent. Fails also for a number beyond the range of double. A failure leaves `value` as it was. */
 BRIO_API brio_cfg_status_t brio_config_float_read(void *handle, const char *key, double *value);
 
 /** Calls `callback` with the group, list or array under a group's key, and returns its result; fails without calling it

@@ -145,8 +145,10 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
                 } else {
                     auto at = whole_dump.begin();
                     for (const std::string &line : result.dump()) {
+                        if (line.find(" id=") == line.npos) // counts and references tell of other records
+                            continue;
                         at = std::find(at, whole_dump.end(), line);
-                        ASSERT_TRUE(at != whole_dump.end() || line.find("<NFANS>") != line.npos) << line;
+                        ASSERT_NE(at, whole_dump.end()) << line;
                     }
                     ++cut;
                 }

@@ -26,7 +26,7 @@ load_result load(const std::string &document) {
     return load();
 }
 
-load_result load_config(const std::string &tree, const std::string &simulation) {
+void write_config(const std::string &tree, const std::string &simulation) {
     static const std::vector<std::pair<std::string, std::string>> root_keys = {
         {"VERSION", "0"},
         {"FAMILY", "\"QVL\""},
@@ -59,6 +59,10 @@ load_result load_config(const std::string &tree, const std::string &simulation) 
     write_platform_file("chassis_dst.xml", "");
     write_platform_file("chassis_dst.conf", whole);
     write_platform_file("chassis_dst_sim.conf", simulation.empty() ? "CHASSIS = { };\n" : simulation);
+}
+
+load_result load_config(const std::string &tree, const std::string &simulation) {
+    write_config(tree, simulation);
     return load();
 }
 

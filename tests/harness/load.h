@@ -27,6 +27,9 @@ load_result load(const std::string &document);
 // lacks and a read cannot do without or remarks on; without a simulation tree there is an empty one.
 load_result load_config(const std::string &tree, const std::string &simulation = "");
 
+// Puts what load_config() loads into /var/platform.
+void write_config(const std::string &tree, const std::string &simulation = "");
+
 // The same with a shipped example: the document, against the shipped schema, or the configuration tree.
 enum class form { xml, config };
 load_result load_example(const std::string &name, form source = form::xml);

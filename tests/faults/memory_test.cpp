@@ -142,7 +142,7 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
                 if (result.status < 0) {
                     ASSERT_TRUE(model_is_zero());
                     ++failures;
-                } else {
+                } else if (whole.status == 0) { // without the device that it fails for, a tree may load
                     auto at = whole_dump.begin();
                     for (const std::string &line : result.dump()) {
                         if (line.find(" id=") == line.npos) // counts and references tell of other records
@@ -166,97 +166,54 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
 // allocation, the devices the next ones.
 TEST(Memory, IsMissedByTheConfigurationReaderThatAskedForIt) {
     using lines = std::vector<std::string>;
+    const std::string missed = ": could not allocate the memory!";
     const struct {
-        const char *device;
-        int allocation; // counted from the device's node
-        lines log;
-        bool goes_on;
+        std::string type, ctrl, reader, handler; // the reader's name, and the handler's line, where they log
+        bool goes_on;                            // with the device after it
+        std::string keys = "";
     } cases[] = {
-        {R"({ Type = "FPC"; ctrl = "FPC"; })", 1, {}, false},
-        {R"({ Type = "FPC"; ctrl = "FPC"; })",
-         2,
-         {"libconfig_dev_fpc_op: could not allocate the memory!",
-          "libconfig_device_fpc_data_get: failed to parse fpc tag"},
+        {"FPC", "FPC", "libconfig_dev_fpc_op", "libconfig_device_fpc_data_get: failed to parse fpc tag", true},
+        {"FPM", "FPM", "libconfig_dev_fpm_op", "libconfig_device_fpm_data_get: failed to parse fpm tag", true},
+        {"FTC", "FTC", "libconfig_dev_ftc_op", "libconfig_device_ftc_data_get: failed to parse ftc tag", true},
+        {"CB", "CB", "libconfig_dev_cb_op", "libconfig_device_cb_data_get: failed to parse cb tag ", true},
+        {"SIB", "SIB", "libconfig_dev_sib_op", "libconfig_device_sib_data_get: failed to parse sib tag ", true},
+        {"TIB", "TIB", "libconfig_dev_tib_op", "libconfig_device_tib_data_get: failed to parse tib tag\\n", true},
+        {"PEM", "PSUEPM", "libconfig_dev_psu_psuepm_op", "libconfig_device_psu_data_get: failed to parse pem tag",
          true},
-        {R"({ Type = "FPM"; ctrl = "FPM"; })",
-         2,
-         {"libconfig_dev_fpm_op: could not allocate the memory!",
-          "libconfig_device_fpm_data_get: failed to parse fpm tag"},
-         true},
-        {R"({ Type = "FTC"; ctrl = "FTC"; })",
-         2,
-         {"libconfig_dev_ftc_op: could not allocate the memory!",
-          "libconfig_device_ftc_data_get: failed to parse ftc tag"},
-         true},
-        {R"({ Type = "CB"; ctrl = "CB"; })",
-         2,
-         {"libconfig_dev_cb_op: could not allocate the memory!",
-          "libconfig_device_cb_data_get: failed to parse cb tag "},
-         true},
-        {R"({ Type = "SIB"; ctrl = "SIB"; })",
-         2,
-         {"libconfig_dev_sib_op: could not allocate the memory!",
-          "libconfig_device_sib_data_get: failed to parse sib tag "},
-         true},
-        {R"({ Type = "TIB"; ctrl = "TIB"; })",
-         2,
-         {"libconfig_dev_tib_op: could not allocate the memory!\\n",
-          "libconfig_device_tib_data_get: failed to parse tib tag\\n"},
-         true},
-        {R"({ Type = "PEM"; ctrl = "PSUEPM"; })",
-         2,
-         {"libconfig_dev_psu_psuepm_op: could not allocate the memory!",
-          "libconfig_device_psu_data_get: failed to parse pem tag"},
-         true},
-        {R"({ Type = "FAN"; ctrl = "ADT7470"; id = 0; FAN = ( ); })",
-         2,
-         {"libconfig_dev_fan_adt7470_op: could not allocate the memory!"},
-         false},
-        {R"({ Type = "FAN"; ctrl = "GFC0812"; id = 0; FAN = ( ); })",
-         2,
-         {"libconfig_dev_fan_gfc0812_op: could not allocate the memory!"},
-         false},
-        {R"({ Type = "FAN"; ctrl = "9HV0812"; id = 0; FAN = ( ); })",
-         2,
-         {"libconfig_dev_fan_haskel_9hv0812_op: could not allocate the memory!"},
-         false},
-        {R"({ Type = "FAN"; ctrl = "FANSYSPLD"; id = 0; FAN = ( ); })",
-         2,
-         {"libconfig_dev_fan_syspld_op: could not allocate the memory!"},
-         false},
-        {R"({ Type = "TMPSNR"; ctrl = "CORETEMP"; THRESHOLD = ( ); })",
-         2,
-         {"libconfig_dev_tmpsnr_tmp435_op: could not allocate the memory!",
-          "libconfig_device_tmpsnr_op: failed to parse temp sensor tag CORETEMP"},
-         true},
-        {R"({ Type = "TMPSNR"; ctrl = "KXTEMP"; THRESHOLD = ( ); })",
-         2,
-         {"libconfig_dev_tmpsnr_kxchiptemp_op: could not allocate the memory!",
-          "libconfig_device_tmpsnr_op: failed to parse temp sensor tag KXTEMP"},
-         true},
-        {R"({ Type = "TMPSNR"; ctrl = "LM73"; THRESHOLD = ( { LIMIT = ( { } ); } ); })", 4, {}, true},
-        {R"({ Type = "VOLTSNR"; ctrl = "ADS7830"; })",
-         2,
-         {"libconfig_dev_voltsnr_ads7830_op: could not allocate the memory!"},
-         false},
-        {R"({ Type = "LED"; ctrl = "CB"; })", 2, {}, false},
-        {R"({ Type = "BTN"; ctrl = "QVLBTN"; })", 2, {}, false},
-        {R"({ Type = "PIC"; ctrl = "PIC"; })", 2, {}, false},
+        {"FAN", "ADT7470", "libconfig_dev_fan_adt7470_op", "", false, "id = 0; FAN = ( );"},
+        {"FAN", "GFC0812", "libconfig_dev_fan_gfc0812_op", "", false, "id = 0; FAN = ( );"},
+        {"FAN", "9HV0812", "libconfig_dev_fan_haskel_9hv0812_op", "", false, "id = 0; FAN = ( );"},
+        {"FAN", "FANSYSPLD", "libconfig_dev_fan_syspld_op", "", false, "id = 0; FAN = ( );"},
+        {"TMPSNR", "CORETEMP", "libconfig_dev_tmpsnr_tmp435_op",
+         "libconfig_device_tmpsnr_op: failed to parse temp sensor tag CORETEMP", true},
+        {"TMPSNR", "KXTEMP", "libconfig_dev_tmpsnr_kxchiptemp_op",
+         "libconfig_device_tmpsnr_op: failed to parse temp sensor tag KXTEMP", true},
+        {"VOLTSNR", "ADS7830", "libconfig_dev_voltsnr_ads7830_op", "", false},
+        {"LED", "CB", "", "", false},
+        {"BTN", "QVLBTN", "", "", false},
+        {"PIC", "PIC", "", "", false},
     };
     for (const auto &one : cases) {
-        SCOPED_TRACE(std::string(one.device) + " allocation " + std::to_string(one.allocation));
-        const std::string tree = "DEVICES = ( " + std::string(one.device) +
-                                 R"(, { Type = "PIC"; ctrl = "PIC"; FRUID = 7; } );
+        SCOPED_TRACE(one.type + " " + one.ctrl);
+        const std::string tree = "DEVICES = ( { Type = \"" + one.type + "\"; ctrl = \"" + one.ctrl + "\"; " + one.keys +
+                                 R"( }, { Type = "PIC"; ctrl = "PIC"; FRUID = 7; } );
 FRUS = ( { id = 0; PARENT = "NULL"; }, { id = 7; PARENT = "NULL"; } );
 )";
-        fail_allocations(1 + one.allocation, 1 + one.allocation);
-        const load_result result = load_config(tree);
-        fail_allocations(0, 0);
-        EXPECT_EQ(texts_of(result.log, LOG_ERR), one.log);
-        EXPECT_EQ(result.status, 0);
-        const pic_module_list_t *pic = chs_info.pic_info.tqh_first;
-        EXPECT_EQ(pic && pic->fru_id == 7, one.goes_on);
-        libchs_release();
+        for (const bool in_reader : {false, true}) { // else for the node
+            fail_allocations(2 + in_reader, 2 + in_reader);
+            const load_result result = load_config(tree);
+            fail_allocations(0, 0);
+            lines expected;
+            if (in_reader && !one.reader.empty())
+                expected.push_back(one.reader + missed + (one.type == "TIB" ? "\\n" : ""));
+            if (in_reader && !one.handler.empty())
+                expected.push_back(one.handler);
+            EXPECT_EQ(texts_of(result.log, LOG_ERR), expected);
+            EXPECT_EQ(result.status, 0);
+            const pic_module_list_t *pic = chs_info.pic_info.tqh_first;
+            EXPECT_EQ(pic && pic->fru_id == 7, in_reader && one.goes_on);
+            libchs_release();
+        }
     }
     const struct {
         int allocation;

@@ -235,9 +235,10 @@ brio_cfg_status_t brio_config_int_read(void *handle, const char *key, int32_t *v
 }
 
 brio_cfg_status_t brio_config_str_read(void *handle, const char *key, const char **value) {
-    if (value)
-        *value = nullptr;
-    if (!well_used(__func__, {{"null handle", handle}, {"null key", key}, {"null value", value}}))
+    if (!well_used(__func__, {{"null value", value}}))
+        return BRIO_CONFIG_FAIL;
+    *value = nullptr;
+    if (!well_used(__func__, {{"null handle", handle}, {"null key", key}}))
         return BRIO_CONFIG_FAIL;
     const config_setting_t *const setting = member(handle, key);
     if (setting && config_setting_type(setting) == CONFIG_TYPE_STRING)

@@ -1,5 +1,6 @@
 #include "scan.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -53,9 +54,9 @@ static char *skip_block_comment(char *text) {
 
 // At the end of a file, libconfig takes a comment without a line feed for an error.
 static char *skip_line_comment(char *text) {
-    const std::size_t length = std::strcspn(text, "\n");
-    std::memset(text, ' ', length);
-    return text + length;
+    char *const end = text + std::strcspn(text, "\n");
+    std::fill(text, end, ' ');
+    return end;
 }
 
 // Returns the end of the number, or of the sign that is none.
@@ -76,8 +77,8 @@ static char *rewrite_number(char *number) {
         char plain[sizeof "0xFFFFFFFF"] = "1e999"; // no longer than the number that it replaces
         if (value > 0 && value <= UINT32_MAX && !continues_name(*end))
             std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
-        std::memset(number, ' ', static_cast<std::size_t>(end - number));
-        std::memcpy(number, plain, std::strlen(plain));
+        std::fill(number, end, ' ');
+        std::copy(plain, plain + std::strlen(plain), number);
     }
     return end;
 }

@@ -166,6 +166,14 @@ TEST(BrioConfig, KeepsIndexesWithinTheArray) {
     EXPECT_EQ(integer(element(chassis, "three", 0), 0), std::nullopt) << "an element is no array";
 }
 
+// The pattern with the value for each @.
+std::string filled(const std::string &pattern, const std::string &value) {
+    std::string text;
+    for (char c : pattern)
+        text += c == '@' ? value : std::string(1, c);
+    return text;
+}
+
 TEST(BrioConfig, ReadsIntegersThatFit) {
     struct {
         const char *written;
@@ -207,9 +215,11 @@ TEST(BrioConfig, ReadsIntegersThatFit) {
         const std::string written = row.written;
         SCOPED_TRACE(written);
         // Neither texts, comments nor names are numbers.
-        const std::string others = "/* " + written + " \" */ x4294967296 = 1; # \" " + written + "\n t = \"\\\" " +
-                                   written + "\"; // \" /* \n n-4294967296 = 2; f = 4294967296.5;\n";
-        ASSERT_EQ(load("CHASSIS = {" + others + "v=" + written + ";l=(1," + written + ",1);};"), BRIO_CONFIG_SUCCESS);
+        ASSERT_EQ(load(filled(R"(CHASSIS = { /* @ " */ x4294967296 = 1; # " @
+                                 t = "\" @"; // " /*
+                                 n-4294967296 = 2; f = 4294967296.5; v=@;l=(1,@,1);};)",
+                              written)),
+                  BRIO_CONFIG_SUCCESS);
         void *chassis = brio_config_handle_get("CHASSIS");
         EXPECT_EQ(integer(chassis, "v"), row.value);
         EXPECT_EQ(integer(subtree(chassis, "l"), 1), row.value);
@@ -220,7 +230,8 @@ TEST(BrioConfig, ReadsIntegersThatFit) {
         EXPECT_EQ(integer(chassis, "n-4294967296"), 2);
         EXPECT_EQ(number(chassis, "f"), 4294967296.5);
         // An array holds one type: integers of any width, or none that fits.
-        EXPECT_EQ(load("CHASSIS = { a = [ 1, " + written + ",-1L]; };") == BRIO_CONFIG_SUCCESS, row.value.has_value());
+        EXPECT_EQ(load(filled("CHASSIS = { a = [ 1, @,-1L]; };", written)) == BRIO_CONFIG_SUCCESS,
+                  row.value.has_value());
         if (row.value) {
             EXPECT_EQ(integer(subtree(brio_config_handle_get("CHASSIS"), "a"), 1), row.value);
         }
@@ -236,7 +247,7 @@ TEST(BrioConfig, ReadsFloats) {
                       {"1e3", 1000}, {"25E-2", .25}, {"1.5e+2", 150},
                       {"1e999", {}}, {"-1e999", {}}, {"12345678901.25", 12345678901.25}};
     for (const auto &row : rows) {
-        ASSERT_EQ(load("CHASSIS = { f = " + std::string(row.written) + "; };"), BRIO_CONFIG_SUCCESS);
+        ASSERT_EQ(load(filled("CHASSIS = { f = @; };", row.written)), BRIO_CONFIG_SUCCESS);
         EXPECT_EQ(number(brio_config_handle_get("CHASSIS"), "f"), row.value) << row.written;
     }
 }

@@ -98,16 +98,18 @@ class memory_watch {
 
   private:
     [[gnu::format(printf, 2, 3)]] static void notice(void *watch, const char *format, ...) {
-        auto *self = static_cast<memory_watch *>(watch);
-        self->ran_out_ = self->ran_out_ || out_of_memory();
-        char message[1024]; // what libxml2 prints at once is shorter, but for long names
         va_list arguments;
         va_start(arguments, format);
-        std::vsnprintf(message, sizeof message, format, arguments);
+        static_cast<memory_watch *>(watch)->pass_on(format, arguments);
         va_end(arguments);
-        xmlSetGenericErrorFunc(self->context_, self->print_); // libxml2's own function looks at the context that is set
-        self->print_(self->context_, "%s", message);
-        xmlSetGenericErrorFunc(self, notice);
+    }
+    void pass_on(const char *format, va_list arguments) {
+        ran_out_ = ran_out_ || out_of_memory();
+        char message[1024]; // what libxml2 prints at once is shorter, but for long names
+        std::vsnprintf(message, sizeof message, format, arguments);
+        xmlSetGenericErrorFunc(context_, print_); // libxml2's own function looks at the context that is set
+        print_(context_, "%s", message);
+        xmlSetGenericErrorFunc(this, notice);
     }
 
     xmlGenericErrorFunc print_;

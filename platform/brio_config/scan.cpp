@@ -64,8 +64,9 @@ static char *rewrite_number(char *number) {
     const bool hexadecimal = starts_with(number, "0x") || starts_with(number, "0X");
     char *end;
     const long long value = std::strtoll(number, &end, hexadecimal ? 16 : 10);
+    const bool has_sign = *number == '+' || *number == '-';
     if (end == number)
-        end += *number == '+' || *number == '-';
+        end += has_sign;
     if (*end == '.')
         return skip_exponent(skip_digits(end + 1));
     char *const exponent_end = skip_exponent(end);
@@ -78,7 +79,8 @@ static char *rewrite_number(char *number) {
         if (value > 0 && value <= UINT32_MAX && !continues_name(*end))
             std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
         std::fill(number, end, ' ');
-        std::copy(plain, plain + std::strlen(plain), number);
+        // A name before the sign stays apart.
+        std::copy(plain, plain + std::strlen(plain), number + has_sign);
     }
     return end;
 }

@@ -347,6 +347,8 @@ TEST(BrioConfig, SaysWhatIsWrongWithAFile) {
                       {"\nCHASSIS = { VERSION = ; };", "2: syntax error"},
                       {"CHASSIS = { VERSION = 08x; };", "1: syntax error"},
                       {"CHASSIS = { VERSION = -0x1; };", "1: syntax error"},
+                      {"CHASSIS = { VERSION+4294967295 = 1; };", "1: syntax error"},
+                      {"CHASSIS = { VERSION = 4294967295b; };", "1: syntax error"},
                       {good + good, "1: duplicate setting name"},
                       {"A = 1;\nB = [ 1,\n\"x\" ];", "3: mismatched element type in array"},
                       {"A = 1;\n\"x\" = 2;\nB", "2: syntax error"},

@@ -46,12 +46,17 @@ field<R> spelt(const char *key, std::string written, std::string kept, M R::*fir
             [=](const R &record) { return text_of(at(record, first, rest...)); }};
 }
 
-// An integer of 32 bits, the low ones of which are kept; its low eight bits are unlike those of its neighbours.
-template <class R, class M> field<R> number(const char *key, M R::*first, auto... rest) {
+// 32 bits, the low eight of which are unlike those of the numbers before, and not 0.
+std::uint32_t next_number() {
     static std::uint32_t last = 0x12345600;
-    last += last % 0x100 == 0xff ? 2 : 1;
+    return last += last % 0x100 == 0xff ? 2 : 1;
+}
+
+// An integer of which the low bits are kept.
+template <class R, class M> field<R> number(const char *key, M R::*first, auto... rest) {
+    const std::uint32_t value = next_number();
     using member_t = std::remove_cvref_t<decltype(at(std::declval<const R &>(), first, rest...))>;
-    return spelt(key, std::to_string(last), text_of(static_cast<member_t>(last)), first, rest...);
+    return spelt(key, std::to_string(value), text_of(static_cast<member_t>(value)), first, rest...);
 }
 
 // A text longer than its member.
@@ -130,6 +135,16 @@ TEST_F(ConfigMembers, KeysOfFrus) {
          number("HYST_OFFSET", fru, &fru_info_t::hyst_offset), number("EPMSIZE", fru, &fru_info_t::epmsize),
          number("MAX_ALARM_REASONS", fru, &fru_info_t::max_alarm_reasons)},
         [] { return dst::entries(chs_info.fru_info); });
+}
+
+TEST_F(ConfigMembers, NegativeI2cDevicesOfFrus) {
+    ASSERT_EQ(read_config("FRUS = ( { I2CDEVID = -5; I2CDEVEXTID = -5; }, { I2CDEVID = -1; }, "
+                          "{ I2CDEVID = 0x80000000L; } );\n"),
+              0);
+    std::vector<std::pair<int, int>> read;
+    for (const fru_module_list_t &fru : dst::entries(chs_info.fru_info))
+        read.emplace_back(fru.i2cdev_id, fru.i2cdev_id_ext);
+    EXPECT_EQ(read, (std::vector<std::pair<int, int>>{{-1, -5}, {-1, -1}, {-1, -1}}));
 }
 
 TEST_F(ConfigMembers, KeysOfSimulatedReadings) {

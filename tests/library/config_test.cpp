@@ -351,14 +351,15 @@ TEST_F(Config, ListsHangOnTheModel) {
     for (const char *one :
          {"FAN\"; ctrl = \"GFC0812\"; FAN = ( { }, { } );", "PEM\"; ctrl = \"PSUEPM\";", "FPC\"; ctrl = \"FPC\";",
           "SIB\"; ctrl = \"SIB\";", "FPM\"; ctrl = \"FPM\";", "FTC\"; ctrl = \"FTC\";", "CB\"; ctrl = \"CB\";",
-          "TIB\"; ctrl = \"TIB\";", "TMPSNR\"; ctrl = \"LM73\"; THRESHOLD = ( { } );", "VOLTSNR\"; ctrl = \"LTC3880\";",
-          "LED\"; ctrl = \"CB\";", "BTN\"; ctrl = \"QVLBTN\";", "PIC\"; ctrl = \"PIC\";"})
+          "TIB\"; ctrl = \"TIB\";", "TMPSNR\"; ctrl = \"LM73\"; THRESHOLD = ( { } );", "TMPSNR\"; ctrl = \"LM73\";",
+          "VOLTSNR\"; ctrl = \"LTC3880\";", "LED\"; ctrl = \"CB\";", "BTN\"; ctrl = \"QVLBTN\";",
+          "PIC\"; ctrl = \"PIC\";"})
         for (int i = 0; i < 2; ++i)
             devices += std::string(devices.empty() ? "" : ", ") + "{ id = 1; Type = \"" + one + " }";
     ASSERT_EQ(read_config("DEVICES = ( " + devices +
                           " );\nBUS = { I2CDEV = ( { }, { } ); };\nRESILMODEL = ( { MODULE = ( { } ); }, { } );\n"
                           "FRUMODEL = { MODEL = ( { }, { } ); };\nCHSMODEL = { MODEL = ( { }, { } ); };\n"
-                          "FRUS = ( { SIM_FRU_DATA = ( { SIM_THRESHOLD = ( { } ); } ); }, { } );\n"),
+                          "FRUS = ( { SIM_FRU_DATA = ( { SIM_THRESHOLD = ( { } ); }, { } ); }, { } );\n"),
               0);
     EXPECT_EQ(filled_lists(), 18);
 
@@ -369,10 +370,13 @@ TEST_F(Config, ListsHangOnTheModel) {
     auto &tray = *dst::module_of<gfc0812_module_info_t>(chs_info.fan_info.tqh_first->fan_minfo);
     EXPECT_TRUE(sound(tray.fan_info) && sound(tray.fan_info.tqh_first->ss2rpm));
     EXPECT_TRUE(sound(chs_info.pem_info.tqh_first->pem_minfo->ss2rpm));
+    for (tmpsnr_info_t &sensor : dst::records<dst::tmpsnrs>(&chs_info))
+        EXPECT_TRUE(sound(sensor.threshold_list));
     auto &threshold = *chs_info.ts_info.tqh_first->ts_minfo->threshold_list.tqh_first;
     EXPECT_TRUE(sound(threshold.limit_list) && sound(threshold.alarm_list));
     auto &simulated = *chs_info.fru_info.tqh_first->fru_minfo.virtual_fru_data.tqh_first;
-    EXPECT_TRUE(sound(simulated.sim_ss2rpm) && sound(simulated.sim_ts_threshold));
+    auto &without = *simulated.sim_fru_data_next.tqe_next;
+    EXPECT_TRUE(sound(without.sim_ss2rpm) && sound(without.sim_ts_threshold));
     auto &simulated_threshold = *simulated.sim_ts_threshold.tqh_first;
     EXPECT_TRUE(sound(simulated_threshold.limit_list) && sound(simulated_threshold.alarm_list));
     EXPECT_TRUE(sound(chs_info.fru_info.tqh_first->fru_next.tqe_next->fru_minfo.virtual_fru_data));
@@ -589,6 +593,26 @@ TEST_F(Config, SurvivesFilesThatAreNoTree) {
         EXPECT_EQ(load_config("").status, 0);
         libchs_release();
     }
+}
+
+TEST_F(Config, SaysThatBothTreesAreMissing) {
+    std::ofstream(tree_path) << "# nothing\n";
+    EXPECT_EQ(texts_of(load().log, LOG_ERR), (texts{no_simulation, no_tree, not_parsed}));
+}
+
+TEST_F(Config, EndsTheProcessWhenThePlatformsLibraryIsMisused) {
+    ASSERT_EQ(load_config("").status, 0);
+    const auto misuse = [] {
+        std::atexit([] {
+            for (const std::string &line : texts_of(take_log(), LOG_CRIT))
+                std::fprintf(stderr, "[%s]\n", line.c_str());
+        });
+        int32_t value = 0;
+        brio_config_int_read(nullptr, "id", &value);
+    };
+    EXPECT_EXIT(misuse(), testing::ExitedWithCode(1),
+                "^\\[ config assert at line [1-9][0-9]* error str brio_config_int_read: null handle,"
+                "EXITING PSVD process\\\\n\\]\n$");
 }
 
 TEST_F(Config, GoesWithoutASimulationThatIsNone) {

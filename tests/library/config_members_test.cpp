@@ -33,8 +33,8 @@ template <class R> struct field {
     std::string missing; // what the member holds without the key
     std::function<std::string(const R &)> member;
 };
-template <class R> field<R> without(std::string missing, field<R> one) {
-    one.missing = std::move(missing);
+template <class R> field<R> without(const std::string &missing, field<R> one) {
+    one.missing = missing;
     return one;
 }
 

@@ -1,6 +1,7 @@
 // What the dump does not show of a configuration tree: the chassis keys one by one, list heads, the simulation's
 // merge, where it is read from, and files that are no tree.
-#include <cstring>
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <sys/stat.h>
@@ -503,10 +504,10 @@ TEST_F(Config, AFailedReadLeavesNothing) {
     read_config("FRUS = 1;");
     fill_model();
     chs_info.chs_cinfo.chs_info.major = 3;
-    model_t before;
-    std::memcpy(&before, &chs_info, sizeof before);
+    const auto bytes = [] { return std::string(reinterpret_cast<const char *>(&chs_info), sizeof chs_info); };
+    const std::string before = bytes();
     EXPECT_NE(libconfig_root_handler(&chs_info), 0);
-    EXPECT_EQ(std::memcmp(&before, &chs_info, sizeof before), 0) << "only libdst_config_init() releases";
+    EXPECT_TRUE(bytes() == before) << "only libdst_config_init() releases";
 }
 
 // ---- Where the tree is read from
@@ -542,7 +543,7 @@ struct hazard {
     std::function<void(const std::string &path)> put;
     const char *told; // empty: no line
 };
-hazard file_of(const char *what, std::string content, const char *told) {
+hazard file_of(const char *what, const std::string &content, const char *told) {
     return {what, [=](const std::string &path) { std::ofstream(path) << content; }, told};
 }
 

@@ -107,7 +107,7 @@ static void hand_over(model_t &from, model_t &to) {
 // The simulated readings of each FRU of the simulation tree replace those of the first FRU with its id.
 static void merge_simulation(model_t &simulation, model_t &model) {
     for (fru_info_t &simulated : records<frus>(&simulation)) {
-        fru_info_t *fru = first_of(records<frus>(&model), [&](auto &one) { return one.id == simulated.id; });
+        fru_info_t *fru = first_of(records<frus>(&model), [&](const auto &one) { return one.id == simulated.id; });
         if (!fru)
             continue;
         release_member(fru->virtual_fru_data);

@@ -120,7 +120,7 @@ class memory_watch {
 // The document with everything that XInclude brings in; null when it cannot be read, or not in full for want of memory:
 // libxml2 hands out what it has then.
 static document read_document(const char *func, const char *path, int options) {
-    const memory_watch memory;
+    memory_watch memory;
     document doc(xmlReadFile(path, nullptr, options));
     if (!doc || memory.ran_out())
         return nullptr;

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes a chassis of a given number of records, in both forms: the modular example with more boards, in its
-proportions. The records are the entries of the model's lists: what they hold (fans, thresholds, ports) is not counted.
+"""Writes chassis of many records below the folder that is given. Records are the entries of the model's lists: what they
+hold (fans, thresholds, ports) is not counted.
 """
 
 import pathlib
@@ -47,7 +47,8 @@ def scaled(factor):
     return chassis
 
 
-def write(records, folder):
+def in_proportion(records):
+    """The document of that many records: the modular chassis with more boards."""
     factor = records / count(scaled(1))
     while count(chassis := scaled(factor)) > records:
         factor *= 0.99
@@ -55,13 +56,30 @@ def write(records, folder):
     for i2c_id in range(records - count(chassis)):
         spare.add_i2c(1000000 + i2c_id, "PIC", f"Spare {i2c_id}", 0x50, 0, "Midplane")
     chassis.find("DEVICE[@type='i2c']").extend(spare.i2c)
+    return chassis
 
+
+def references(records):
+    """The document of I2C devices and FRUs alone, half and half, whose ids lie far apart in the lists."""
+    part, half = example.Part(), records // 2
+    for number in range(half):
+        part.add_i2c(number, "CB", f"Device {number}", 0x50, 0, "Midplane")
+        part.add_fru(number, "CB", f"FRU {number}", 0, number * 7919 % half, number * 7907 % half, 10)
+    return part.document()
+
+
+def write(folder, records, chassis, with_config):
+    folder.mkdir(parents=True, exist_ok=True)
     note = f"{records} records."
-    tree = config_tree.convert(chassis)
-    config_only.add_to_devices(tree)
     (folder / "chassis_dst.xml").write_text(example.text(chassis, note), encoding="utf-8")
-    (folder / "chassis_dst.conf").write_text(config_tree.text(note, tree, {}), encoding="utf-8")
+    if with_config:
+        tree = config_tree.convert(chassis)
+        config_only.add_to_devices(tree)
+        (folder / "chassis_dst.conf").write_text(config_tree.text(note, tree, {}), encoding="utf-8")
 
 
 if __name__ == "__main__":
-    write(int(sys.argv[1]), pathlib.Path(sys.argv[2]))
+    build = pathlib.Path(sys.argv[1])
+    write(build / "1000", 1000, in_proportion(1000), True)
+    write(build / "10000", 10000, in_proportion(10000), True)
+    write(build / "references", 10000, references(10000), False)

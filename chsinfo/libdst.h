@@ -1709,9 +1709,9 @@ extern DST_API epm_data_init_ops_t epm_null_ops;
 /* ---- Initialisation and release ---- */
 
 /** Reads the description and makes it available: "/var/platform/chassis_dst.xml" if it is readable, else
- * "/var/platform/chassis_dst.conf", with the simulation tree "/var/platform/chassis_dst_sim.conf". Prints the model on standard output, then fills the EPM list. Releases first
- * what an earlier call read. A failing read leaves no model; call again to retry. The chosen file is logged at
- * LOG_INFO.
+ * "/var/platform/chassis_dst.conf", with the simulation tree "/var/platform/chassis_dst_sim.conf". Prints the model on
+ * standard output, then fills the EPM list. Releases first what an earlier call read. A failing read leaves no model;
+ * call again to retry. The chosen file is logged at LOG_INFO.
  *
  * Returns the result of libchs_chassis_epm_data_init(): 0, or the host's value. A negative value is failure:
  *   - no readable description, -1: "Fatal: Could not find configuration file %s OR %s" at LOG_ERR, then "Could not

@@ -16,7 +16,7 @@ static bool starts_with(const char *text, const char *start) {
 }
 
 static bool is_one_of(char c, const char *characters) { return c && std::strchr(characters, c); }
-static bool is_blank(char c) { return is_one_of(c, " \t\r\n\f"); }
+static bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\f' || c == '\r'; }
 static bool is_digit(char c) { return c >= '0' && c <= '9'; }
 static bool is_hex_digit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 static bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }

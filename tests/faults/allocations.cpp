@@ -1,6 +1,7 @@
 // Every allocation of a life of the library made to fail, whoever asks for it: alone, and with all after it. Each try
 // is a process of its own; it initialises, releases and initialises again, once the allocations work. Usage:
 // allocations [--all]     --all: each allocation; without: as many as a few seconds allow
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -151,8 +152,8 @@ std::string printed_model() {
 }
 
 bool model_is_zero() {
-    static const libdst_chs_info_t zero{};
-    return std::memcmp(&chs_info, &zero, sizeof zero) == 0;
+    const auto *bytes = reinterpret_cast<const char *>(&chs_info);
+    return std::all_of(bytes, bytes + sizeof chs_info, [](char byte) { return byte == 0; });
 }
 
 [[noreturn]] void wrong(const char *what) {

@@ -171,7 +171,7 @@ TEST(Memory, IsMissedByTheConfigurationReaderThatAskedForIt) {
     const struct {
         std::string type, ctrl, reader, handler; // the reader's name, and the handler's line, where they log
         bool goes_on;                            // with the device after it
-        std::string keys = "";
+        std::string keys = {};
     } cases[] = {
         {"FPC", "FPC", "libconfig_dev_fpc_op", "libconfig_device_fpc_data_get: failed to parse fpc tag", true},
         {"FPM", "FPM", "libconfig_dev_fpm_op", "libconfig_device_fpm_data_get: failed to parse fpm tag", true},

@@ -53,7 +53,7 @@ void write_config(const std::string &tree, const std::string &simulation) {
     if (tree.find("CHASSIS") != 0) {
         for (const auto &[key, value] : root_keys)
             if (("\n" + tree).find("\n" + key + " =") == std::string::npos)
-                whole += key + " = " + value + ";\n";
+                whole.append(key).append(" = ").append(value).append(";\n");
         whole = "CHASSIS = {\n" + whole + "};\n";
     }
     write_platform_file("chassis_dst.xml", "");

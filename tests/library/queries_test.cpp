@@ -61,7 +61,7 @@ std::string text_of(form source, const record &one) {
         return "{ " + inside + (insists && !one.controller.empty() ? "FAN = (); THRESHOLD = ();" : "") + " }";
     }
     for (const auto &[key, value] : one.content)
-        inside += "<" + key + ">" + value + "</" + key + ">";
+        inside.append("<").append(key).append(">").append(value).append("</").append(key).append(">");
     return "<" + one.name + " id='" + std::to_string(one.id) + "' type='" + one.type + "' ctrl='" + one.controller +
            "'>" + inside + "</" + one.name + ">";
 }

@@ -135,7 +135,7 @@ TEST_P(Ranges, GoWithTheAlgorithms) {
 
 // Run under helgrind by scripts/test.
 TEST_P(Ranges, FourThreadsAtOnce) {
-    const auto count = [this] {
+    const auto count = [] {
         std::vector<std::ptrdiff_t> counts;
         each_range(GetParam(), [&counts](auto range, auto) { counts.push_back(std::ranges::distance(range)); });
         return counts;

@@ -5,12 +5,14 @@
 
 #include "../harness/load.h"
 #include "chsinfo/libdst.h"
+#include "libxml2.h"
+
+int document_reads;
 
 namespace {
 
 enum class call { none, new_parser, new_validator, validate, first_read, second_read };
 call failing = call::none;
-int reads;
 
 } // namespace
 
@@ -30,8 +32,9 @@ int __wrap_xmlSchemaValidateDoc(xmlSchemaValidCtxtPtr validator, xmlDocPtr doc) 
     return failing == call::validate ? -1 : __real_xmlSchemaValidateDoc(validator, doc);
 }
 xmlDocPtr __wrap_xmlReadFile(const char *path, const char *encoding, int options) {
-    ++reads;
-    const bool fails = (failing == call::first_read && reads == 1) || (failing == call::second_read && reads == 2);
+    ++document_reads;
+    const bool fails =
+        (failing == call::first_read && document_reads == 1) || (failing == call::second_read && document_reads == 2);
     return fails ? nullptr : __real_xmlReadFile(path, encoding, options);
 }
 }
@@ -60,7 +63,7 @@ TEST(Libxml2, FailsCallByCall) {
     for (const auto &one : cases) {
         SCOPED_TRACE(static_cast<int>(one.fails));
         failing = one.fails;
-        reads = 0;
+        document_reads = 0;
         const load_result result = load("<VERSION>1</VERSION>");
         failing = call::none;
         auto expected = one.log;

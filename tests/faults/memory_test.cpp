@@ -8,6 +8,7 @@
 #include "../harness/load.h"
 #include "chsinfo/libdst.h"
 #include "chsinfo/libdst/xml/load.h"
+#include "libxml2.h"
 
 namespace {
 
@@ -255,7 +256,8 @@ TEST(Memory, RunsOutForEpmData) {
     epm_null_ops = {};
 }
 
-// libxml2's own memory, once the document has passed validation: a chassis is read whole or not at all.
+// libxml2's own memory, once the document has passed validation, in which libxml2 crashes: a chassis is read whole or
+// not at all. How much libxml2 asks for differs from load to load, with the seed of its hash tables.
 namespace xml_memory {
 
 int requests;
@@ -263,6 +265,8 @@ int failing_from;
 int failing_to;
 
 bool fails() {
+    if (document_reads < 2)
+        return false;
     ++requests;
     return failing_from && requests >= failing_from && requests <= failing_to;
 }
@@ -297,25 +301,22 @@ TEST(Memory, RunsOutInLibxml2) {
         <VERSION>3</VERSION><DEVICE type="PIC" ctrl="PIC" id="1"><FRUID>1</FRUID></DEVICE>)";
     const auto whole = load(document).dump();
     libchs_release();
-    xml_memory::requests = 0;
-    {
-        streams_capture streams;
-        libdst_xml_validation();
-    }
-    const int validation = xml_memory::requests;
-    xml_memory::requests = 0;
-    load(document);
+    const auto load_anew = [&] {
+        document_reads = 0;
+        xml_memory::requests = 0;
+        return load(document);
+    };
+    load_anew();
     const int needed = xml_memory::requests;
     libchs_release();
     EXPECT_EQ(xml_memory::live.size(), 0U);
     int failures = 0;
-    for (int n = validation + 1; n <= needed; ++n) {
+    for (int n = 1; n <= needed; ++n) {
         for (int last : {n, INT32_MAX}) {
             SCOPED_TRACE(std::to_string(n) + (last == n ? " alone" : " and all after it"));
-            xml_memory::requests = 0;
             xml_memory::failing_from = n;
             xml_memory::failing_to = last;
-            const load_result result = load(document);
+            const load_result result = load_anew();
             xml_memory::failing_from = 0;
             if (result.status < 0) {
                 ++failures;

@@ -30,6 +30,13 @@ gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/client" "$source_dir/tests/insta
 gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/queries" "$source_dir/tests/install/queries.c" "${library[@]}"
 gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/inventory_c" "$documents/inventory.c" "${library[@]}"
 g++ "$@" -std=c++20 "${warnings[@]}" -o "$scratch/inventory_cpp" "$documents/inventory.cpp" "${library[@]}"
+# readme LANGUAGE: its example
+readme() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$source_dir/README.md"; }
+readme c >"$scratch/readme.c"
+gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/readme_c" "$scratch/readme.c" "${library[@]}"
+readme cpp >"$scratch/readme.cpp"
+[ -s "$scratch/readme.cpp" ] || fail "no example in C++ in the README"
+g++ "$@" -std=c++20 "${warnings[@]}" -c -o "$scratch/readme.o" "$scratch/readme.cpp" "${library[@]}"
 
 # run CLIENT EXAMPLE FORM, the form being xml or conf. The folder of the description is the client's own, in a mount namespace.
 run() {
@@ -46,6 +53,7 @@ prints() {
 }
 client_output=$(run client small xml)
 diff "$source_dir/tests/install/client.expected" <(grep '^client: ' <<<"$client_output") || fail "the client's output"
+[ "$(run readme_c small xml | grep -c '^[^<].* on nothing$')" = 1 ] || fail "what the README's example prints"
 prints queries modular xml queries.expected
 prints inventory_c fixed-1u xml inventory.expected
 prints inventory_cpp fixed-1u conf inventory.expected

@@ -35,11 +35,14 @@ template <class T>
 int walk(const char *func, const tag_entry<T> *table, xmlDocPtr doc, xmlNodePtr element, T *target,
          const char *failure) {
     int rc = 0;
-    for (xmlNodePtr child = content_of(element); child && rc >= 0; child = child->next)
+    for (xmlNodePtr child = content_of(element); child && rc >= 0; child = child->next) {
+        if (child->type == XML_TEXT_NODE) // half of the children, named "text", which no table has
+            continue;
         if (const tag_entry<T> *entry = find(table, reinterpret_cast<const char *>(child->name))) {
             rc = entry->tag_parser_op(doc, child, target);
             rc = check(func, rc >= 0 && out_of_memory() ? -1 : rc, failure);
         }
+    }
     return rc;
 }
 

@@ -27,7 +27,7 @@ i386:
 
 # Builds and their tests
 
-sanitized := -DDST_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1
+sanitized := -DDST_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug '-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1'
 options-32 := -DDST_TESTS=ON --toolchain cmake/i386.cmake
 options-32-sanitized := $(options-32) $(sanitized)
 options-64 := -DDST_TESTS=ON -DDST_BENCH=ON
@@ -38,7 +38,7 @@ built-fuzz := fuzz_targets
 build_jobs := $(patsubst %,build-%,$(builds) fuzz)
 .PHONY: $(build_jobs) $(builds:%=test-%)
 $(build_jobs): build-%:
-	@echo "== build/$*: $(options-$*)"
+	@echo "== build/$*"
 	@cmake -S . -B build/$* -DDST_WERROR=ON -DCMAKE_RULE_MESSAGES=OFF -DCMAKE_TARGET_MESSAGES=OFF $(options-$*) >/dev/null
 	+@$(MAKE) -s -C build/$* $(built-$*)
 build-32 build-32-sanitized: i386

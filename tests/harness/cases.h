@@ -6,6 +6,7 @@
 //   --- simulation                    with a configuration tree: the simulation tree's content of CHASSIS
 //   --- dump                          it loads: the dump, less what an empty chassis prints
 //   --- shows                         or: lines that the dump shows, in this order, others between them
+//   --- members                       or: lines of members_of_model(), one right after the other
 //   --- log                           with it: the lines at LOG_ERR (none without this heading)
 //   --- fails                         or the root walk fails: the lines at LOG_ERR, less the fixed ones after them
 //   --- fails linking                 or the linking fails: likewise

@@ -5,6 +5,7 @@
 
 #include "../harness/cases.h"
 #include "../harness/load.h"
+#include "../harness/members.h"
 #include "chsinfo/libdst.h"
 
 namespace {
@@ -27,12 +28,6 @@ std::vector<std::string> beyond(const std::vector<std::string> &empty, const std
     return rest;
 }
 
-std::vector<std::string> empty_dump(load_result (*load_one)(const load_case &)) {
-    auto lines = load_one({}).dump();
-    libchs_release();
-    return lines;
-}
-
 // The first of these lines that the dump does not show after the ones before it; empty when it shows all.
 std::string first_missing(const std::vector<std::string> &wanted, const std::vector<std::string> &dump) {
     auto at = dump.begin();
@@ -47,28 +42,45 @@ std::string first_missing(const std::vector<std::string> &wanted, const std::vec
 
 using texts = std::vector<std::string>;
 
-// Loads the case by `load_one` and holds it to what it expects.
-void expect_case(const load_case &one, load_result (*load_one)(const load_case &), const texts &empty,
-                 texts (*tail)(const std::string &heading)) {
+load_result load_one(form source, const load_case &one) {
+    if (source == form::xml)
+        return load(one.document);
+    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
+}
+
+texts empty_dump(form source) {
+    texts lines = load_one(source, {}).dump();
+    libchs_release();
+    return lines;
+}
+
+// Loads the case and holds it to what it expects.
+void expect_case(form source, const load_case &one) {
     SCOPED_TRACE(one);
-    const load_result result = load_one(one);
+    static const texts empty[] = {empty_dump(form::xml), empty_dump(form::config)};
+    const load_result result = load_one(source, one);
     const auto errors = texts_of(result.log, LOG_ERR);
     const auto expected_lines = [&](const char *heading) {
         const auto found = one.expected.find(heading);
         return found == one.expected.end() ? texts{} : found->second;
     };
-    if (one.expected.contains("dump") || one.expected.contains("shows")) {
-        const auto dump = beyond(empty, result.dump());
+    if (one.expected.contains("dump") || one.expected.contains("shows") || one.expected.contains("members")) {
+        const auto dump = beyond(empty[source == form::config], result.dump());
         EXPECT_EQ(errors, expected_lines("log"));
         EXPECT_EQ(result.status, 0);
         if (one.expected.contains("dump")) {
             EXPECT_EQ(dump, expected_lines("dump"));
         }
         EXPECT_EQ(first_missing(expected_lines("shows"), dump), "");
+        const texts members = members_of_model(source);
+        const texts expected = expected_lines("members");
+        EXPECT_NE(std::search(members.begin(), members.end(), expected.begin(), expected.end()), members.end())
+            << testing::PrintToString(members);
     } else {
         ASSERT_EQ(one.expected.size(), 1U) << "a case has one outcome";
         auto [heading, expected] = *one.expected.begin();
-        const texts after = tail(heading);
+        const texts after =
+            source == form::xml ? failure_tail(heading) : texts{"Could not parse configuration file!\\n"};
         expected.insert(expected.end(), after.begin(), after.end());
         EXPECT_EQ(errors, expected);
         EXPECT_LT(result.status, 0);
@@ -86,26 +98,12 @@ std::string name_of_case(const testing::TestParamInfo<load_case> &info) {
     return name;
 }
 
-load_result load_document(const load_case &one) { return load(one.document); }
-
 class XmlCase : public testing::TestWithParam<load_case> {};
-TEST_P(XmlCase, Loads) {
-    static const texts empty = empty_dump(load_document);
-    expect_case(GetParam(), load_document, empty, failure_tail);
-}
+TEST_P(XmlCase, Loads) { expect_case(form::xml, GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Xml, XmlCase, testing::ValuesIn(all_cases()), name_of_case);
 
-load_result load_tree(const load_case &one) {
-    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
-}
-
-texts config_failure_tail(const std::string &) { return {"Could not parse configuration file!\\n"}; }
-
 class ConfigCase : public testing::TestWithParam<load_case> {};
-TEST_P(ConfigCase, Loads) {
-    static const texts empty = empty_dump(load_tree);
-    expect_case(GetParam(), load_tree, empty, config_failure_tail);
-}
+TEST_P(ConfigCase, Loads) { expect_case(form::config, GetParam()); }
 INSTANTIATE_TEST_SUITE_P(Config, ConfigCase, testing::ValuesIn(all_cases(DST_TEST_DATA "/config")), name_of_case);
 
 } // namespace

@@ -260,37 +260,23 @@ TEST_F(Load, TheShippedExamplesLoadAsTheyRead) {
     }
 }
 
-// Members that the dump does not show.
-TEST_F(Load, FillsTheMembersThatAreNotPrinted) {
-    const std::string long_name(200, 'n');
-    ASSERT_EQ(load("<PCIBUSADDR>1</PCIBUSADDR><PCISUBADDR1>2</PCISUBADDR1><PCISUBADDR2>3</PCISUBADDR2>"
-                   "<PCIBUSADDR_MEZZ>4</PCIBUSADDR_MEZZ><PCISUBADDR1_MEZZ>5</PCISUBADDR1_MEZZ>"
-                   "<PCISUBADDR2_MEZZ>0x6</PCISUBADDR2_MEZZ><LSPCI_OVERRIDE/>"
-                   "<DEVICE type=\"FRU\"><FRUDEV id=\"8\" type=\"CB\"/><FRUDEV id=\"9\" type=\"CB\"/></DEVICE>"
-                   "<DEVICE type=\"FRU\"><FRUDEV id=\"1\" type=\"CB\"><I2CDEVEXTID>3</I2CDEVEXTID><PARENT>NULL</PARENT>"
-                   "<VIRTUAL_FRU_STAT_FILE>" +
-                   long_name +
-                   "</VIRTUAL_FRU_STAT_FILE><HYST_OFFSET>7</HYST_OFFSET>"
-                   "<MAX_ALARM_REASONS>9</MAX_ALARM_REASONS></FRUDEV></DEVICE>")
-                  .status,
-              0);
-    const chassis_info_t &chassis = *libchs_chassis_info_get();
-    EXPECT_EQ(chassis.pci_busaddr, 1U);
-    EXPECT_EQ(chassis.pci_subaddr1, 2U);
-    EXPECT_EQ(chassis.pci_subaddr2, 3U);
-    EXPECT_EQ(chassis.pci_busaddr_mezz, 4U);
-    EXPECT_EQ(chassis.pci_subaddr1_mezz, 5U);
-    EXPECT_EQ(chassis.pci_subaddr2_mezz, 0U);
-    EXPECT_EQ(chassis.lspci_override, 0U);
-    EXPECT_EQ(chassis.nfrus, 3U) << "counted over both sections";
-    const fru_module_list_t *fru = chs_info.fru_info.tqh_first;
-    ASSERT_EQ(fru->fru_next.tqe_next, nullptr) << "the second section starts the list again";
-    EXPECT_EQ(fru->parent_id, 0xFFFFFFFFU);
-    EXPECT_EQ(fru->i2cdev_id, 0);
-    EXPECT_EQ(fru->i2cdev_id_ext, 3);
-    EXPECT_EQ(fru->fru_minfo.virtual_fru_stats_file_name, long_name.substr(0, 127));
-    EXPECT_EQ(fru->fru_minfo.hyst_offset, 7U);
-    EXPECT_EQ(fru->fru_minfo.max_alarm_reasons, 9U);
+// With the source line of the reader, which is not said here.
+TEST_F(Load, AnnouncesLcds) {
+    const std::string begin = "libdst_dev_lcd_op:";
+    const auto announced = [&begin](const std::string &lcd) {
+        lines ends;
+        for (const std::string &line : texts_of(load(lcd).log, LOG_INFO))
+            if (line.starts_with(begin)) {
+                EXPECT_TRUE(std::isdigit(line[begin.size()])) << line;
+                ends.push_back(line.substr(line.find_first_not_of("0123456789", begin.size())));
+            }
+        return ends;
+    };
+    EXPECT_EQ(
+        announced(
+            "<DEVICE type='FRU'><FRUDEV id='0' type='CB'/></DEVICE><DEVICE type='LCD' ctrl='GENERICLCD' id='6'/>"),
+        lines{" Parsing LCD op done successfully!"});
+    EXPECT_EQ(announced("<DEVICE type='LCD' ctrl='GENERICLCD' id='6'><NAME/></DEVICE>"), lines{});
 }
 
 TEST_F(Load, SaysThatFrusStayUnlinkedWithoutI2cDevices) {
@@ -303,24 +289,6 @@ const char two_of_each[] = R"(
 <DEVICE type="FRU"><FRUDEV id="0" type="CB"/><FRUDEV id="1" type="FPC"/></DEVICE>
 <DEVICE type="PIC" ctrl="PIC" id="0"/><DEVICE type="PIC" ctrl="PIC" id="1"/>
 )";
-
-TEST_F(Load, MovedListsHangOnTheModel) {
-    ASSERT_EQ(load(two_of_each).status, 0);
-    const auto hangs = [](auto &list, auto link) {
-        auto *first = list.tqh_first;
-        ASSERT_NE(first, nullptr);
-        auto *last = (first->*link).tqe_next;
-        ASSERT_NE(last, nullptr);
-        EXPECT_EQ((first->*link).tqe_prev, &list.tqh_first);
-        EXPECT_EQ((last->*link).tqe_prev, &(first->*link).tqe_next);
-        EXPECT_EQ(list.tqh_last, &(last->*link).tqe_next);
-    };
-    hangs(chs_info.chs_cinfo.i2cdev_info_list, &libdst_i2cdev_info_t::i2cdev_info_next);
-    hangs(chs_info.fru_info, &fru_module_list_t::fru_next);
-    hangs(chs_info.pic_info, &pic_module_list_t::pic_next);
-    EXPECT_EQ(chs_info.asic_info.tqh_last, &chs_info.asic_info.tqh_first) << "an absent section";
-    EXPECT_EQ(chs_info.fan_info.tqh_last, &chs_info.fan_info.tqh_first) << "a list that nothing was appended to";
-}
 
 TEST_F(Load, GoesThroughTheStatesOfItsLife) {
     EXPECT_EQ(libdst_get_chs_info(), &chs_info);

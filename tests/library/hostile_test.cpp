@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "../harness/load.h"
-#include "chsinfo/libdst.h"
+#include "chsinfo/libdst_priv.h"
 
 namespace {
 
@@ -69,6 +69,9 @@ std::vector<hostile> hostile_documents() {
         {"of a FIFO as text", including("fifo' parse='text'"), "fifo: not a local regular file", true},
         {"of a FIFO behind escapes", including("fif%6f'"), "not a local regular file", true},
         {"of a FIFO by URL", including("file:///var/platform/fifo'"), "not a local regular file", true},
+        {"by a shorter URL", including("file:/var/platform/fifo'"), "not a local regular file", true},
+        {"in capitals", including("FILE:///var/platform/fifo'"), "not a local regular file", true},
+        {"by an escaped URL", including("file:%2Fvar/platform/%66ifo'"), "not a local regular file", true},
         {"of a folder", including("/var'"), "/var: not a local regular file", true},
         {"of the network", including("http://127.0.0.1:9/x.xml'"), "not a local regular file", true},
         {"of standard input", including("-'"), "Could not apply", true},
@@ -152,6 +155,24 @@ TEST_F(Hostile, CutDocumentsAreRefused) {
     }
     write_platform_file("chassis_dst.xml", document);
     EXPECT_EQ(load().status, 0);
+}
+
+// Neither the environment nor an included file brings in other files. A catalogue or DTD that is read complains.
+TEST_F(Hostile, CataloguesAndExternalDtdsAreNotRead) {
+    for (const char *name : {"catalogue", "dtd"})
+        write_platform_file(name, "<!broken");
+    write_platform_file("included.xml", "<?oasis-xml-catalog catalog='/var/platform/catalogue'?>"
+                                        "<!DOCTYPE FEATURE SYSTEM 'dtd'><FEATURE>5</FEATURE>");
+    setenv("XML_CATALOG_FILES", "/var/platform/catalogue", 1);
+    for (const char *file : {"included.xml'", "missing.xml'"}) {
+        const load_result result = load(including(file));
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.err.find("broken"), std::string::npos) << result.err;
+        EXPECT_EQ(chs_info.chs_cinfo.chs_info.feature, *file == 'i' ? 5U : 0U);
+    }
+    unsetenv("XML_CATALOG_FILES");
+    for (const char *name : {"catalogue", "dtd", "included.xml"})
+        unlink((std::string("/var/platform/") + name).c_str());
 }
 
 // What is no regular file is refused before it is opened, in the place of any of the files.

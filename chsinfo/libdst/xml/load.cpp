@@ -1,9 +1,11 @@
 #include "load.h"
 
 #include <cstring>
+#include <strings.h>
 #include <sys/stat.h>
 #include <utility>
 
+#include <libxml/catalog.h>
 #include <libxml/parser.h>
 #include <libxml/uri.h>
 #include <libxml/xinclude.h>
@@ -50,38 +52,56 @@ template <class Callback> static Callback print_to_stream() {
     return reinterpret_cast<Callback>(reinterpret_cast<void (*)()>(std::fprintf));
 }
 
-// Whether there is something by this name that is no regular file: to open it might wait forever.
-static bool is_irregular(const char *path) {
+// The file that a name or URL stands for, as libxml2 opens it; null for what is not local.
+static const char *local_path(const char *url) {
+    for (const char *scheme : {"file://localhost/", "file:///", "file:/"})
+        if (strncasecmp(url, scheme, std::strlen(scheme)) == 0)
+            return url + std::strlen(scheme) - 1;
+    return std::strstr(url, "://") ? nullptr : url;
+}
+
+// What is there by this name may not be opened: it is not local, or no regular file and might wait forever.
+static bool is_barred(const char *url) {
+    const char *path = local_path(url);
     struct stat found;
-    return path && (std::strcmp(path, "-") == 0 || (stat(path, &found) == 0 && !S_ISREG(found.st_mode)));
+    return !path || std::strcmp(path, "-") == 0 || (stat(path, &found) == 0 && !S_ISREG(found.st_mode));
 }
 
 static xmlExternalEntityLoader load_regular_file;
 
-// Refuses, before it is opened, whatever libxml2 would load that is no local regular file.
+// Refuses, before it is opened, whatever libxml2 would load that is no local regular file, or is part of a document
+// that is being read: included ones, unlike the main one, would bring in their DTD.
 static xmlParserInputPtr load_guarded(const char *url, const char *id, xmlParserCtxtPtr parser) {
-    const char *path = url;
-    for (const char *scheme : {"file://localhost/", "file:///"})
-        if (path && std::strncmp(path, scheme, std::strlen(scheme)) == 0)
-            path += std::strlen(scheme) - 1;
-    const xml_text unescaped(BAD_CAST xmlURIUnescapeString(path, 0, nullptr)); // libxml2 tries both
-    if (!path || std::strstr(path, "://") || is_irregular(path) || is_irregular(unescaped.get())) {
-        xmlGenericError(xmlGenericErrorContext, "%s: not a local regular file\n", url);
-        return nullptr;
-    }
-    return load_regular_file(url, id, parser);
+    const char *refusal = nullptr;
+    const xml_text unescaped(BAD_CAST xmlURIUnescapeString(url, 0, nullptr)); // libxml2 tries both
+    if (!url || is_barred(url) || (unescaped && is_barred(unescaped.get())))
+        refusal = "not a local regular file";
+    else if (parser && parser->inputNr > 0)
+        refusal = "external entities and DTDs are not read";
+    if (!refusal)
+        return load_regular_file(url, id, parser);
+    xmlGenericError(xmlGenericErrorContext, "%s: %s\n", url, refusal);
+    return nullptr;
 }
 
-// Has libxml2 load local regular files alone; the host's loader, which still loads them, is put back.
+// Has libxml2 load local regular files alone, by the names that the documents give: no catalogue, of the environment or
+// of a document, tells of others. The host's loader, which still loads them, and its catalogues are put back.
 class regular_files_only {
   public:
-    regular_files_only() {
+    regular_files_only() : catalogues_(xmlCatalogGetDefaults()) {
         load_regular_file = xmlGetExternalEntityLoader();
         xmlSetExternalEntityLoader(load_guarded);
+        xmlCatalogSetDefaults(XML_CATA_ALLOW_NONE);
     }
-    ~regular_files_only() { xmlSetExternalEntityLoader(load_regular_file); }
+    ~regular_files_only() {
+        xmlCatalogSetDefaults(catalogues_);
+        xmlSetExternalEntityLoader(load_regular_file);
+    }
     regular_files_only(const regular_files_only &) = delete;
     regular_files_only &operator=(const regular_files_only &) = delete;
+
+  private:
+    const xmlCatalogAllow catalogues_;
 };
 
 // Notices memory that ran out although a later error hides it. The messages go on to the host's function.
@@ -106,7 +126,8 @@ class memory_watch {
     void pass_on(const char *format, va_list arguments) {
         ran_out_ = ran_out_ || out_of_memory();
         char message[1024]; // what libxml2 prints at once is shorter, but for long names
-        std::vsnprintf(message, sizeof message, format, arguments);
+        if (std::vsnprintf(message, sizeof message, format, arguments) >= static_cast<int>(sizeof message))
+            message[sizeof message - 2] = '\n';
         xmlSetGenericErrorFunc(context_, print_); // libxml2's own function looks at the context that is set
         print_(context_, "%s", message);
         xmlSetGenericErrorFunc(this, notice);

@@ -39,17 +39,23 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const char *wor
     return 0;
 }
 
-// The walk ends once everything wanted is found. Until then a later device with the primary id replaces the link.
+// With an extension device wanted, a later device with the primary id replaces the link until both are found.
 static void link_i2c_devices(libdst_chs_info_t *model, fru_module_list_t &entry) {
     fru_info_t &fru = entry.fru_minfo;
-    for (i2c_dev_info_t &device : records<i2c_devices>(model)) {
-        if (device.id == static_cast<uint32_t>(entry.i2cdev_id))
+    const auto devices = records<i2c_devices>(model);
+    const auto primary = static_cast<uint32_t>(entry.i2cdev_id);
+    const auto extension = static_cast<uint32_t>(entry.i2cdev_id_ext);
+    if (entry.i2cdev_id_ext == no_i2c_device) {
+        fru.i2cdev_ext = nullptr;
+        fru.i2cdev = first_of(devices, [primary](auto &device) { return device.id == primary; });
+        return;
+    }
+    for (i2c_dev_info_t &device : devices) {
+        if (device.id == primary)
             fru.i2cdev = &device;
-        if (entry.i2cdev_id_ext == no_i2c_device)
-            fru.i2cdev_ext = nullptr;
-        else if (device.id == static_cast<uint32_t>(entry.i2cdev_id_ext))
+        if (device.id == extension)
             fru.i2cdev_ext = &device;
-        if (fru.i2cdev && (entry.i2cdev_id_ext == no_i2c_device || fru.i2cdev_ext))
+        if (fru.i2cdev && fru.i2cdev_ext)
             return;
     }
 }

@@ -43,10 +43,9 @@ static sim_assembly_id_t *parse_fru_virtual_i2c_data(void *handle) {
     });
 }
 
-// The text "NULL" is no parent, any other text its decimal value.
 static void parent_key(void *handle, uint32_t &parent_id) {
     if (const char *text = dst::text_of(handle, "PARENT"))
-        parent_id = std::strcmp(text, "NULL") == 0 ? 0xFFFFFFFF : static_cast<uint32_t>(std::atoi(text));
+        parent_id = dst::parent_id(text);
 }
 
 static fru_module_list_t *libconfig_frudev_data_read(void *handle) {

@@ -21,6 +21,7 @@
 #include "chsinfo/libdst/model/kinds.h"
 #include "chsinfo/libdst/model/log.h"
 #include "chsinfo/libdst/model/names.h"
+#include "chsinfo/libdst/model/numbers.h"
 
 // The first of `maxelem` names that begins with the text, or -1: an empty text finds the first name there is, no text
 // nothing.

@@ -11,8 +11,7 @@ static int libdst_dev_fru_per_parent_tag_op(xmlDocPtr doc, xmlNodePtr node, fru_
     const dst::xml_text text = dst::element_text(doc, node);
     if (!text)
         return -1;
-    const bool none = std::strcmp(text.get(), "NULL") == 0;
-    to->parent_id = none ? 0xFFFFFFFF : static_cast<uint32_t>(dst::decimal(text.get()));
+    to->parent_id = dst::parent_id(text.get());
     return 0;
 }
 

@@ -1,7 +1,5 @@
 #include "values.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <libxml/xmlerror.h>
 
@@ -19,12 +17,6 @@ xml_text element_text(xmlDocPtr doc, xmlNodePtr node) {
 xml_text attribute(xmlNodePtr node, const char *name) {
     return xml_text(xmlGetProp(node, reinterpret_cast<const xmlChar *>(name)));
 }
-
-static int32_t number(const char *text, int base) {
-    return static_cast<int32_t>(std::clamp<long>(std::strtol(text, nullptr, base), INT32_MIN, INT32_MAX));
-}
-int32_t decimal(const char *text) { return number(text, 10); }
-int32_t prefixed(const char *text) { return number(text, 0); }
 
 bool name_is(const xmlNode *node, const char *name) {
     return node->name && std::strcmp(reinterpret_cast<const char *>(node->name), name) == 0;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "../model/names.h"
+#include "../model/numbers.h"
 #include "chsinfo/libdst.h"
 
 // Each takes the element's own text. Returns 0; or -1, the target unchanged, for an element without text (and for a
@@ -49,10 +50,6 @@ bool out_of_memory();
 
 xml_text element_text(xmlDocPtr doc, xmlNodePtr node);
 xml_text attribute(xmlNodePtr node, const char *name);
-
-// A number as the parsers read it: decimal, or with base prefix.
-int32_t decimal(const char *text);
-int32_t prefixed(const char *text);
 
 bool name_is(const xmlNode *node, const char *name);
 

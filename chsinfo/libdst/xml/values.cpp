@@ -15,7 +15,7 @@ xml_text element_text(xmlDocPtr doc, xmlNodePtr node) {
 }
 
 xml_text attribute(xmlNodePtr node, const char *name) {
-    return xml_text(xmlGetProp(node, reinterpret_cast<const xmlChar *>(name)));
+    return xml_text(xmlGetNoNsProp(node, reinterpret_cast<const xmlChar *>(name)));
 }
 
 bool name_is(const xmlNode *node, const char *name) {

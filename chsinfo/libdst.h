@@ -21,10 +21,13 @@
  *     configuration-tree form numbers are integers as its library reads them; the low bits are stored.
  *   - Names: a member with an enumeration type is read as text that stands in the enumeration's table: the whole
  *     text in the XML form, while in the configuration-tree form the beginning of a row suffices and text unknown to
- *     the table gives -1. Such a member therefore need not hold an enumerator.
+ *     the table gives -1. Such a member therefore need not hold an enumerator. A `ctrl_type` always does: "ctrl" is
+ *     the whole name of a controller of that kind of device (for fan trays, in the configuration-tree form, its
+ *     beginning); with another one the XML form is refused, while the configuration-tree form loses the device, and
+ *     for some kinds those after it.
  *   - Texts are NUL-terminated; longer ones are cut to fit.
  *   - Ids are expected to be unique in their list, but nothing enforces it: where they repeat, the first record
- *     counts.
+ *     counts, unless said otherwise.
  *   - Registers, masks and the like are handed through; the library attaches no meaning to them.
  *   - Threads: there are no locks. Queries may run side by side; initialisation and release must run alone.
  */
@@ -41,7 +44,8 @@
 #define DST_API
 #endif
 
-/** The underlying type of each enumeration is int also in C++, so that -1 (unknown text) is a value of it. */
+/** In C++ the underlying type of each enumeration is int, so that -1 (unknown text) is a value of it. In C the compiler
+ * chooses, and may take an unsigned type: compare with -1, or convert to int; `< 0` may never hold. */
 #ifdef __cplusplus
 #define DST_ENUM_INT : int
 #else
@@ -409,7 +413,7 @@ typedef struct _chassis_info_s {
     uint32_t nbpleds;           /**< LEDs counted by NBPLEDS. Element NBPLEDS (decimal); key "NBPLEDS". */
     uint32_t nbuttons;          /**< Buttons. Element NBUTTONS (decimal); no key. */
     uint32_t feature;           /**< Feature word. Element FEATURE (decimal); key "FEATURE". */
-    uint32_t nfrus;             /**< Records in the FRU list, counted as they are read. */
+    uint32_t nfrus;             /**< FRUs read. Those of a list that a later list replaced (XML form) count too. */
     uint32_t pci_busaddr;       /**< PCI bus address. Element PCIBUSADDR (decimal); key "PCIBUSADDR". */
     uint32_t pci_subaddr1;      /**< PCI sub-address 1. Element PCISUBADDR1 (decimal); key "PCISUBADDR1". */
     uint32_t pci_subaddr2;      /**< PCI sub-address 2. Element PCISUBADDR2 (decimal); key "PCISUBADDR2". */
@@ -602,8 +606,9 @@ typedef struct _sim_fru_data_list_s {
 
 /** A FRU: element FRUDEV, key "FRUS". Owned by the model; valid until libchs_release(). */
 typedef struct _fru_info_s {
-    /** I2C device of its identification EEPROM; null for a negative `i2cdev_id`, and in a model without I2C devices.
-     * Set by linking. Reference, not owned. */
+    /** I2C device of its identification EEPROM; null for a negative `i2cdev_id`, and in a model without I2C devices. Of
+     * several with the id the first; with an `i2cdev_id_ext` other than -1, the last until both are found. Set by
+     * linking. Reference, not owned. */
     i2c_dev_info_t *i2cdev;
     /** Extension I2C device; null when `i2cdev_id_ext` names none, and wherever `i2cdev` is null. Set by linking.
      * Reference, not owned. */
@@ -1966,9 +1971,9 @@ DST_API void display_dst_info(void);
 /** Finds the PCI address of a device: of the first line of `lspci` that contains `dev_id_str` as a whole word. Runs the
  * shell with `lspci`, `grep` and `awk`; needs no model.
  *
- * `dev_id_str` is a NUL-terminated text of 1 to 93 characters out of letters, digits, '_', '.', ':' and '-', the last
- * neither first nor last; for any other text nothing is run. `bus`, `dev` and `func` must not be null; each gets the
- * low 8 bits.
+ * `dev_id_str` is a NUL-terminated text of 1 to 93 characters out of letters, digits, '_', '.' (any character), ':'
+ * and '-', the last neither first nor last; for any other text nothing is run. `bus`, `dev` and `func` must not be
+ * null; each gets the low 8 bits.
  *
  * Returns 0; or -1, with the outputs untouched, for a text that is refused, when the tool could not be started,
  * printed no line, or the line does not begin with bus:device.function in hexadecimal (an address with a PCI domain

@@ -36,10 +36,10 @@ DST_API int fru_info_get_id_by_type_slotno_priv(fru_type_t fru_type, uint32_t sl
 DST_API int libdst_init(void);
 
 /** Reads "/var/platform/chassis_dst.conf", with "/var/platform/chassis_dst_sim.conf" as its simulation tree, into
- * `chs_info` and links it. Returns 0, or another value with `chs_info` all zero; what is wrong is logged at LOG_ERR,
- * and a description that is refused is said on standard output too. Misuse of the configuration-tree library, which
- * nothing that the files contain leads to, is logged at LOG_CRIT and ends the process with status 1. What the lists of
- * `chs_info` held before is forgotten, not released. */
+ * `chs_info` and links it. Returns 0: `nbuttons`, the LCDs and the EPM data of `chs_info` stayed, what its other lists
+ * held is forgotten, not released. Or another value, with `chs_info` released and all zero; what is wrong is logged at
+ * LOG_ERR, and a description that is refused is said on standard output too. Misuse of the configuration-tree library,
+ * which nothing that the files contain leads to, is logged at LOG_CRIT and ends the process with status 1. */
 DST_API int libdst_config_init(void);
 
 /** Reads the trees that the configuration-tree library holds into `chs_info`, not linked, all or nothing. Returns 0, or

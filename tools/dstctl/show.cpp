@@ -13,7 +13,7 @@
 #include "dstctl.h"
 
 static void log_to_stderr(int priority, const char *format, va_list arguments) {
-    std::fprintf(stderr, "%s: ", priority == LOG_ERR ? "error" : priority == LOG_DEBUG ? "debug" : "info");
+    std::fprintf(stderr, "%s: ", priority <= LOG_ERR ? "error" : priority == LOG_DEBUG ? "debug" : "info");
     std::vfprintf(stderr, format, arguments);
     const std::size_t length = std::strlen(format);
     if (length == 0 || format[length - 1] != '\n')

@@ -194,7 +194,7 @@ def group_lines(group, indent):
 
 def assignment_lines(key, value, indent):
     pad = " " * indent
-    if not is_nested(value) or (fits(assignment(key, value), indent) and indent > 2):
+    if not is_nested(value) or not value or (fits(assignment(key, value), indent) and indent > 2):
         return [pad + assignment(key, value)]
     if isinstance(value, Group):
         inner = [line for item in value.items() for line in assignment_lines(*item, indent + 2)]

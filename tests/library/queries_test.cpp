@@ -2,7 +2,7 @@
 // finds; the tests take all rows through a model that is empty, one with one record of each kind, several records,
 // repeated keys, or no model. The EPM initialisation is in load_test.cpp.
 #include <algorithm>
-#include <functional>
+#include <cstring>
 #include <gtest/gtest.h>
 
 #include "../harness/load.h"
@@ -160,49 +160,36 @@ void lose_key(auto &record) { record.id = 99; }
 void lose_key(optics_info_t &record) { record.pic_id = 99; }
 void lose_key(cepm_data_t &record) { record.cepm_type = EPM_TYPE_MAX; }
 
-// How a walk finds the record passed: by its key, or by its FRU and controller.
-struct by_key {
-    static auto place(const auto &record) { return key_of(record); }
-    static void lose(auto &record) { lose_key(record); }
+// A type of record, and by what a walk finds the record passed: its place.
+struct record_type {
+    std::size_t size;
+    uint32_t (*key)(const void *record);
+    uint32_t (*place)(const void *record);
+    void (*lose_place)(void *record);
 };
-struct by_fru {
-    static auto place(const auto &record) { return record.ctrl_type; }
-    static void lose(auto &record) { record.fru_info = nullptr; }
-};
+template <class R> uint32_t key(const void *record) { return key_of(*static_cast<const R *>(record)); }
+template <class R>
+constexpr record_type by_key = {sizeof(R), key<R>, key<R>, [](void *record) { lose_key(*static_cast<R *>(record)); }};
+template <class R>
+constexpr record_type by_controller_on_fru = {
+    sizeof(R), key<R>, [](const void *record) { return uint32_t(static_cast<const R *>(record)->ctrl_type); },
+    [](void *record) { static_cast<R *>(record)->fru_info = nullptr; }};
 
 // A query with the type of its records taken off.
-struct query {
-    std::function<void *(void *)> next;         // the call
-    std::function<void *(void *)> next_of_copy; // for a copy of a record
-    std::function<void *(void *)> next_of_lost; // for a copy that has lost its key; for zeros where null is given
-    std::function<void *(void *)> others;       // a walk over the same records and some that this one leaves out
-    std::function<uint32_t(void *)> key, place;
+using step = void *(*)(void *previous);
+template <auto Query, auto... Fixed> using found_by = std::remove_pointer_t<decltype(Query(Fixed..., nullptr))>;
+template <auto Query, auto... Fixed> void *take(void *previous) {
+    return Query(Fixed..., static_cast<found_by<Query, Fixed...> *>(previous));
+}
 
-    template <class Next> query(Next call) : query(call, call) {} // implicit, for short rows
-    template <class Next, class Others> query(Next call, Others all) : query(call, all, by_key()) {}
-    template <class Next, class Others, class By> query(Next call, Others all, By /*by*/) {
-        using record = std::remove_pointer_t<decltype(call(nullptr))>;
-        next = [=](void *one) { return call(static_cast<record *>(one)); };
-        next_of_copy = [=](void *one) {
-            record copy = *static_cast<record *>(one);
-            return call(&copy);
-        };
-        next_of_lost = [=](void *one) {
-            record copy = one ? *static_cast<record *>(one) : record{};
-            By::lose(copy);
-            return call(&copy);
-        };
-        others = [=](void *one) { return all(static_cast<record *>(one)); };
-        key = [](void *one) { return key_of(*static_cast<record *>(one)); };
-        place = [](void *one) { return static_cast<uint32_t>(By::place(*static_cast<record *>(one))); };
-    }
-};
-
-struct walk : query {
+struct walk {
     std::string operation, empty; // who logs what of an empty list
-    keys one, several;            // of a document with one record of a kind, and with several
-    std::size_t repeated;         // records found where each element of the latter stands twice
-    std::string end = {};         // logged with every null result
+    step next;
+    step others; // a walk over the same records and some that this one leaves out
+    record_type type;
+    keys one, several;    // of a document with one record of a kind, and with several
+    std::size_t repeated; // records found where each element of the latter stands twice
+    std::string end = {}; // logged with every null result
 
     std::vector<log_line> end_log() const {
         std::vector<log_line> log;
@@ -210,32 +197,54 @@ struct walk : query {
             log.push_back({LOG_ERR, operation + ": " + end});
         return log;
     }
+    void *next_of_copy(const void *record) const {
+        std::vector<char> copy(type.size);
+        std::memcpy(copy.data(), record, type.size);
+        return next(copy.data());
+    }
+    // From a copy, or from zeros, that stand nowhere in the list.
+    void *next_of_lost(const void *record = nullptr) const {
+        std::vector<char> copy(type.size);
+        if (record)
+            std::memcpy(copy.data(), record, type.size);
+        type.lose_place(copy.data());
+        return next(copy.data());
+    }
 };
 
-walk filtered(const char *operation, const char *empty, const query &calls, const keys &one, const keys &several,
-              std::size_t repeated) {
-    return {calls, operation, empty, one, several, repeated};
+// Query with its fixed arguments, which come first, among what Others finds.
+template <auto Others, auto Query, auto... Fixed>
+walk filtered(const char *operation, const char *empty, const keys &one, const keys &several, std::size_t repeated) {
+    return {operation, empty, take<Query, Fixed...>, take<Others>, by_key<found_by<Others>>, one, several, repeated};
 }
-walk plain(const char *operation, const char *empty, const query &calls, const keys &one, const keys &several) {
-    return {calls, operation, empty, one, several, 2 * several.size()};
+template <auto Query> walk plain(const char *operation, const char *empty, const keys &one, const keys &several) {
+    return filtered<Query, Query>(operation, empty, one, several, 2 * several.size());
 }
-walk device(const char *operation, const char *empty, const query &calls, uint32_t id) {
-    return plain(operation, empty, calls, {id + 5}, {id + 5, id + 3, id + 9});
+template <auto Query> walk device(const char *operation, const char *empty, uint32_t id) {
+    return plain<Query>(operation, empty, {id + 5}, {id + 5, id + 3, id + 9});
 }
-walk fru_of(const char *operation, fru_info_t *(*next)(fru_info_t *), uint32_t id,
-            const char *empty = "empty fru list!") {
-    return {{next, libchs_fru_info_get_next}, operation, empty, {id}, {id, id + 1}, 4};
+template <auto Query> walk fru_of(const char *operation, uint32_t id, const char *empty = "empty fru list!") {
+    return filtered<libchs_fru_info_get_next, Query>(operation, empty, {id}, {id, id + 1}, 4);
 }
-walk relative(const char *operation, fru_info_t *(*next)(fru_info_t *), const keys &one, const keys &several) {
-    walk row{{next, libchs_fru_info_get_next}, operation, "empty fru list!", one, several, 4};
+template <auto Query> walk relative(const char *operation, const keys &one, const keys &several) {
+    walk row = filtered<libchs_fru_info_get_next, Query>(operation, "empty fru list!", one, several, 4);
     row.end = "could not find the fru info for the parent!";
     return row;
 }
-walk on_fru(const char *operation, const char *empty, const query &calls, uint32_t id) {
-    return {calls, operation, empty, {id + 5}, {id + 5, id + 9}, 4};
+template <auto Others, auto Query, uint32_t Fru> walk on_fru(const char *operation, const char *empty, uint32_t id) {
+    walk row = filtered<Others, Query, Fru>(operation, empty, {id + 5}, {id + 5, id + 9}, 4);
+    row.type = by_controller_on_fru<found_by<Others>>;
+    return row;
 }
-template <class R> query of_fru(uint32_t fru_id, R *(*call)(uint32_t, R *), R *(*all)(R *)) {
-    return {with(fru_id, call), all, by_fru()};
+
+i2c_dev_info_t *next_fpc_device(i2c_dev_info_t *at) { return libchs_i2c_dev_info_get_next_by_type(at, I2C_TYPE_FPC); }
+fru_model_info_t *next_fan_model(const fru_model_info_t *at) {
+    return libdst_fru_model_info_get_next_by_type(at, FRU_TYPE_FAN);
+}
+fru_info_t *next_on_fpc(fru_info_t *at) {
+    static fru_info_t fpc_0; // the key of a FRU, in place of the model's record
+    fpc_0.id = 130;
+    return libchs_fru_info_get_next_child(&fpc_0, at);
 }
 
 // Ports of either PIC.
@@ -248,133 +257,121 @@ bcm_port_info_t *next_port(bcm_port_info_t *port) {
 
 std::vector<walk> walks() {
     const char *const i2c = "Empty i2c device list!";
-    const auto fpc_i2c = [](i2c_dev_info_t *at) { return libchs_i2c_dev_info_get_next_by_type(at, I2C_TYPE_FPC); };
-    const auto asic_30 = with(30, libchs_bcm_port_info_get_next);
-    const auto pic_32 = with(32, libchs_bcm_port_info_get_next_by_picid);
     const char *const no_optics = "empty optics list!";
-    const auto optics = libchs_optics_info_get_next;
-    const auto port_1 = with(1, libchs_optics_info_get_next_by_port_no);
-    const auto slot_0 = with(0, libchs_optics_info_get_next_by_slotno);
-    const auto models = [](const fru_model_info_t *at) { return libdst_fru_model_info_get_next(at); };
-    const auto fans = [](const fru_model_info_t *at) {
-        return libdst_fru_model_info_get_next_by_type(at, FRU_TYPE_FAN);
-    };
-    static fru_info_t fpc_0; // the key of a FRU, in place of the model's record
-    fpc_0.id = 130;
-    const auto children = [](fru_info_t *at) { return libchs_fru_info_get_next_child(&fpc_0, at); };
     return {
-        plain("i2c_dev_info_get_next_priv", i2c, libchs_i2c_dev_info_get_next, {11}, {11, 13, 12}),
-        filtered("i2c_dev_info_get_next_by_type_priv", i2c, {fpc_i2c, libchs_i2c_dev_info_get_next}, {11}, {11, 12}, 4),
-        device("fan_info_get_next_priv", "empty fan list!", libchs_fan_info_get_next, 100),
-        device("pem_info_get_next_priv", "empty pem list!", libchs_pem_info_get_next, 200),
-        device("pic_info_get_next_priv", "empty pic list!", libchs_pic_info_get_next, 300),
-        device("fpc_info_get_next_priv", "empty fpc list!", libchs_fpc_info_get_next, 400),
-        device("sib_info_get_next_priv", "empty sib list!", libchs_sib_info_get_next, 500),
-        device("fpm_info_get_next_priv", "empty fpm list!", libchs_fpm_info_get_next, 600),
-        device("ftc_info_get_next_priv", "empty ftc list!", libchs_ftc_info_get_next, 700),
-        device("cb_info_get_next_priv", "empty cb list!", libchs_cb_info_get_next, 800),
-        device("tmpsnr_info_get_next_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_next, 900),
-        device("voltsnr_info_get_next_priv", "empty volt sensor list!", libchs_voltsnr_info_get_next, 1000),
-        device("led_info_get_next_priv", "empty led list!", libchs_led_info_get_next, 1100),
-        device("lcd_info_get_next_priv", "empty lcd list!", libchs_lcd_info_get_next, 1200),
-        device("btn_info_get_next_priv", "empty btn list!", libchs_btn_info_get_next, 1300),
-        device("tib_info_get_next_priv", "empty tib list!\\n", libchs_tib_info_get_next, 1400),
-        plain("asic_info_get_next_priv", "empty asic list!", libchs_asic_info_get_next, {30}, {33, 30, 31, 32}),
-        filtered("bcm_port_info_get_next_priv", "empty asic list!", {asic_30, next_port}, {5}, {5, 3, 9}, 6),
-        filtered("bcm_port_info_get_next_by_picid_priv", "empty asic list!", {pic_32, next_port}, {5}, {5, 9, 6, 8},
-                 16),
-        plain("optics_info_get_next_priv", no_optics, optics, {10}, {10, 20, 11, 21, 12}),
-        filtered("optics_info_get_next_by_portno_priv", no_optics, {port_1, optics}, {10}, {10, 11, 12}, 6),
-        filtered("optics_info_get_next_by_slotno_priv", no_optics, {slot_0, optics}, {10}, {10, 20}, 4),
-        plain("fru_model_info_get_next_priv", "empty fru model list!", models, {3}, {3, 1, 2}),
-        filtered("fru_model_info_get_next_by_type_priv", "empty fru model list!", {fans, models}, {3}, {3, 2}, 4),
-        plain("chassis_model_info_get_next_priv", "empty chassis model list!", libdst_chassis_model_info_get_next, {72},
-              {72, 71}),
-        filtered("epm_data_get_next_priv", "empty epm list!", {libchs_epm_data_get_next, libchs_epm_data_get_next}, {1},
-                 {1, 2}, 2),
-        plain("fru_info_get_next_priv", "empty fru list!", libchs_fru_info_get_next,
-              {1, 40, 50, 60, 130, 140, 150, 160, 170, 200},
-              {1, 2, 40, 41, 50, 51, 60, 61, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}),
-        fru_of("fru_info_get_next_by_fan_priv", libchs_fru_info_get_next_by_fan, 40),
-        fru_of("fru_info_get_next_by_pem_priv", libchs_fru_info_get_next_by_pem, 50),
-        fru_of("fru_info_get_next_by_pic_priv", libchs_fru_info_get_next_by_pic, 60),
-        fru_of("fru_info_get_next_by_fpc_priv", libchs_fru_info_get_next_by_fpc, 130),
-        fru_of("fru_info_get_next_by_sib_priv", libchs_fru_info_get_next_by_sib, 140),
-        fru_of("fru_info_get_next_by_fpm_priv", libchs_fru_info_get_next_by_fpm, 150),
-        fru_of("fru_info_get_next_by_ftc_priv", libchs_fru_info_get_next_by_ftc, 160),
-        fru_of("fru_info_get_next_by_cb_priv", libchs_fru_info_get_next_by_cb, 170),
-        fru_of("fru_info_get_next_by_tib_priv", libchs_fru_info_get_next_by_tib, 200, "empty fru list!\\n"),
-        relative("fru_info_get_next_parent_priv", libchs_fru_info_get_next_parent, {1}, {1, 2}),
-        relative("fru_info_get_next_child_priv", children, {60}, {60, 61}),
-        on_fru("fru_fan_info_get_next_priv", "empty fan list!",
-               of_fru(40, libchs_fru_fan_info_get_next, libchs_fan_info_get_next), 100),
-        on_fru("fru_pem_info_get_next_priv", "empty pem list!",
-               of_fru(50, libchs_fru_pem_info_get_next, libchs_pem_info_get_next), 200),
-        on_fru("fru_pic_info_get_next_priv", "empty pic list!",
-               of_fru(60, libchs_fru_pic_info_get_next, libchs_pic_info_get_next), 300),
-        on_fru("fru_fpc_info_get_next_priv", "empty fpc list!",
-               of_fru(130, libchs_fru_fpc_info_get_next, libchs_fpc_info_get_next), 400),
-        on_fru("fru_sib_info_get_next_priv", "empty sib list!",
-               of_fru(140, libchs_fru_sib_info_get_next, libchs_sib_info_get_next), 500),
-        on_fru("fru_fpm_info_get_next_priv", "empty fpm list!",
-               of_fru(150, libchs_fru_fpm_info_get_next, libchs_fpm_info_get_next), 600),
-        on_fru("fru_ftc_info_get_next_priv", "empty ftc list!",
-               of_fru(160, libchs_fru_ftc_info_get_next, libchs_ftc_info_get_next), 700),
-        on_fru("fru_cb_info_get_next_priv", "empty cb list!",
-               of_fru(170, libchs_fru_cb_info_get_next, libchs_cb_info_get_next), 800),
-        on_fru("fru_tib_info_get_next_priv", "empty tib list!\\n",
-               of_fru(200, libchs_fru_tib_info_get_next, libchs_tib_info_get_next), 1400),
+        plain<libchs_i2c_dev_info_get_next>("i2c_dev_info_get_next_priv", i2c, {11}, {11, 13, 12}),
+        filtered<libchs_i2c_dev_info_get_next, next_fpc_device>("i2c_dev_info_get_next_by_type_priv", i2c, {11},
+                                                                {11, 12}, 4),
+        device<libchs_fan_info_get_next>("fan_info_get_next_priv", "empty fan list!", 100),
+        device<libchs_pem_info_get_next>("pem_info_get_next_priv", "empty pem list!", 200),
+        device<libchs_pic_info_get_next>("pic_info_get_next_priv", "empty pic list!", 300),
+        device<libchs_fpc_info_get_next>("fpc_info_get_next_priv", "empty fpc list!", 400),
+        device<libchs_sib_info_get_next>("sib_info_get_next_priv", "empty sib list!", 500),
+        device<libchs_fpm_info_get_next>("fpm_info_get_next_priv", "empty fpm list!", 600),
+        device<libchs_ftc_info_get_next>("ftc_info_get_next_priv", "empty ftc list!", 700),
+        device<libchs_cb_info_get_next>("cb_info_get_next_priv", "empty cb list!", 800),
+        device<libchs_tmpsnr_info_get_next>("tmpsnr_info_get_next_priv", "empty temp sensor list!", 900),
+        device<libchs_voltsnr_info_get_next>("voltsnr_info_get_next_priv", "empty volt sensor list!", 1000),
+        device<libchs_led_info_get_next>("led_info_get_next_priv", "empty led list!", 1100),
+        device<libchs_lcd_info_get_next>("lcd_info_get_next_priv", "empty lcd list!", 1200),
+        device<libchs_btn_info_get_next>("btn_info_get_next_priv", "empty btn list!", 1300),
+        device<libchs_tib_info_get_next>("tib_info_get_next_priv", "empty tib list!\\n", 1400),
+        plain<libchs_asic_info_get_next>("asic_info_get_next_priv", "empty asic list!", {30}, {33, 30, 31, 32}),
+        filtered<next_port, libchs_bcm_port_info_get_next, 30>("bcm_port_info_get_next_priv", "empty asic list!", {5},
+                                                               {5, 3, 9}, 6),
+        filtered<next_port, libchs_bcm_port_info_get_next_by_picid, 32>("bcm_port_info_get_next_by_picid_priv",
+                                                                        "empty asic list!", {5}, {5, 9, 6, 8}, 16),
+        plain<libchs_optics_info_get_next>("optics_info_get_next_priv", no_optics, {10}, {10, 20, 11, 21, 12}),
+        filtered<libchs_optics_info_get_next, libchs_optics_info_get_next_by_port_no, 1>(
+            "optics_info_get_next_by_portno_priv", no_optics, {10}, {10, 11, 12}, 6),
+        filtered<libchs_optics_info_get_next, libchs_optics_info_get_next_by_slotno, 0>(
+            "optics_info_get_next_by_slotno_priv", no_optics, {10}, {10, 20}, 4),
+        plain<libdst_fru_model_info_get_next>("fru_model_info_get_next_priv", "empty fru model list!", {3}, {3, 1, 2}),
+        filtered<libdst_fru_model_info_get_next, next_fan_model>("fru_model_info_get_next_by_type_priv",
+                                                                 "empty fru model list!", {3}, {3, 2}, 4),
+        plain<libdst_chassis_model_info_get_next>("chassis_model_info_get_next_priv", "empty chassis model list!", {72},
+                                                  {72, 71}),
+        filtered<libchs_epm_data_get_next, libchs_epm_data_get_next>("epm_data_get_next_priv", "empty epm list!", {1},
+                                                                     {1, 2}, 2),
+        plain<libchs_fru_info_get_next>(
+            "fru_info_get_next_priv", "empty fru list!", {1, 40, 50, 60, 130, 140, 150, 160, 170, 200},
+            {1, 2, 40, 41, 50, 51, 60, 61, 130, 131, 140, 141, 150, 151, 160, 161, 170, 171, 200, 201}),
+        fru_of<libchs_fru_info_get_next_by_fan>("fru_info_get_next_by_fan_priv", 40),
+        fru_of<libchs_fru_info_get_next_by_pem>("fru_info_get_next_by_pem_priv", 50),
+        fru_of<libchs_fru_info_get_next_by_pic>("fru_info_get_next_by_pic_priv", 60),
+        fru_of<libchs_fru_info_get_next_by_fpc>("fru_info_get_next_by_fpc_priv", 130),
+        fru_of<libchs_fru_info_get_next_by_sib>("fru_info_get_next_by_sib_priv", 140),
+        fru_of<libchs_fru_info_get_next_by_fpm>("fru_info_get_next_by_fpm_priv", 150),
+        fru_of<libchs_fru_info_get_next_by_ftc>("fru_info_get_next_by_ftc_priv", 160),
+        fru_of<libchs_fru_info_get_next_by_cb>("fru_info_get_next_by_cb_priv", 170),
+        fru_of<libchs_fru_info_get_next_by_tib>("fru_info_get_next_by_tib_priv", 200, "empty fru list!\\n"),
+        relative<libchs_fru_info_get_next_parent>("fru_info_get_next_parent_priv", {1}, {1, 2}),
+        relative<next_on_fpc>("fru_info_get_next_child_priv", {60}, {60, 61}),
+        on_fru<libchs_fan_info_get_next, libchs_fru_fan_info_get_next, 40>("fru_fan_info_get_next_priv",
+                                                                           "empty fan list!", 100),
+        on_fru<libchs_pem_info_get_next, libchs_fru_pem_info_get_next, 50>("fru_pem_info_get_next_priv",
+                                                                           "empty pem list!", 200),
+        on_fru<libchs_pic_info_get_next, libchs_fru_pic_info_get_next, 60>("fru_pic_info_get_next_priv",
+                                                                           "empty pic list!", 300),
+        on_fru<libchs_fpc_info_get_next, libchs_fru_fpc_info_get_next, 130>("fru_fpc_info_get_next_priv",
+                                                                            "empty fpc list!", 400),
+        on_fru<libchs_sib_info_get_next, libchs_fru_sib_info_get_next, 140>("fru_sib_info_get_next_priv",
+                                                                            "empty sib list!", 500),
+        on_fru<libchs_fpm_info_get_next, libchs_fru_fpm_info_get_next, 150>("fru_fpm_info_get_next_priv",
+                                                                            "empty fpm list!", 600),
+        on_fru<libchs_ftc_info_get_next, libchs_fru_ftc_info_get_next, 160>("fru_ftc_info_get_next_priv",
+                                                                            "empty ftc list!", 700),
+        on_fru<libchs_cb_info_get_next, libchs_fru_cb_info_get_next, 170>("fru_cb_info_get_next_priv", "empty cb list!",
+                                                                          800),
+        on_fru<libchs_tib_info_get_next, libchs_fru_tib_info_get_next, 200>("fru_tib_info_get_next_priv",
+                                                                            "empty tib list!\\n", 1400),
     };
 }
 
 struct lookup {
     std::string operation, empty;
-    uint32_t known, unknown;                    // keys
-    std::function<void *(uint32_t)> find = {};  // the query
-    std::function<void *(uint32_t)> first = {}; // the first record with a key
-    std::function<uint32_t(void *)> key = {};
+    uint32_t known, unknown; // keys
+    void *(*find)(uint32_t key);
+    step next; // the walk over the list that it looks through
+    uint32_t (*key)(const void *record);
+
+    void *first(uint32_t wanted) const {
+        const std::vector<void *> all = all_of(next);
+        const auto found = std::find_if(all.begin(), all.end(), [&](void *one) { return key(one) == wanted; });
+        return found == all.end() ? nullptr : *found;
+    }
 };
 
-// `next` walks the list that `find` looks through.
-template <class R>
-lookup by_key_in(const char *operation, const char *empty, R *(*find)(uint32_t), uint32_t known, uint32_t unknown,
-                 R *(*next)(R *)) {
-    lookup row{operation, empty, known, unknown};
-    row.find = find;
-    row.first = [next](uint32_t key) -> R * {
-        for (R *at = next(nullptr); at; at = next(at))
-            if (key_of(*at) == key)
-                return at;
-        return nullptr;
-    };
-    row.key = [](void *one) { return key_of(*static_cast<R *>(one)); };
-    return row;
+template <auto Find, auto Next>
+lookup by_key_in(const char *operation, const char *empty, uint32_t known, uint32_t unknown) {
+    return {
+        operation,          empty, known, unknown, [](uint32_t wanted) -> void * { return Find(wanted); }, take<Next>,
+        key<found_by<Next>>};
 }
 
+cepm_data_t *epm_of_type(uint32_t type) { return libchs_epm_data_get_by_type(static_cast<cepm_type_t>(type)); }
+
 std::vector<lookup> lookups() {
-    cepm_data_t *(*const epm_by_type)(uint32_t) = [](uint32_t type) {
-        return libchs_epm_data_get_by_type(static_cast<cepm_type_t>(type));
-    };
     return {
-        by_key_in("i2c_dev_info_by_id_priv", "Empty i2c device list!", libchs_i2c_dev_info_by_id, 12, 14,
-                  libchs_i2c_dev_info_get_next),
-        by_key_in("tmpsnr_info_get_by_id_priv", "empty temp sensor list!", libchs_tmpsnr_info_get_by_id, 909, 1005,
-                  libchs_tmpsnr_info_get_next),
-        by_key_in("voltsnr_info_get_by_id_priv", "empty volt sensor list!", libchs_voltsnr_info_get_by_id, 1009, 905,
-                  libchs_voltsnr_info_get_next),
-        by_key_in("led_info_get_by_id_priv", "empty led/lcd list!", libchs_led_info_get_by_id, 1109, 1205,
-                  libchs_led_info_get_next),
-        by_key_in("lcd_info_get_by_id_priv", "empty lcd list!", libchs_lcd_info_get_by_id, 1209, 1105,
-                  libchs_lcd_info_get_next),
-        by_key_in("btn_info_get_by_id_priv", "empty button list!", libchs_btn_info_get_by_id, 1309, 0,
-                  libchs_btn_info_get_next),
-        by_key_in("fru_info_get_by_id_priv", "empty fru list!", libchs_fru_info_get_by_id, 201, 3,
-                  libchs_fru_info_get_next),
+        by_key_in<libchs_i2c_dev_info_by_id, libchs_i2c_dev_info_get_next>("i2c_dev_info_by_id_priv",
+                                                                           "Empty i2c device list!", 12, 14),
+        by_key_in<libchs_tmpsnr_info_get_by_id, libchs_tmpsnr_info_get_next>("tmpsnr_info_get_by_id_priv",
+                                                                             "empty temp sensor list!", 909, 1005),
+        by_key_in<libchs_voltsnr_info_get_by_id, libchs_voltsnr_info_get_next>("voltsnr_info_get_by_id_priv",
+                                                                               "empty volt sensor list!", 1009, 905),
+        by_key_in<libchs_led_info_get_by_id, libchs_led_info_get_next>("led_info_get_by_id_priv", "empty led/lcd list!",
+                                                                       1109, 1205),
+        by_key_in<libchs_lcd_info_get_by_id, libchs_lcd_info_get_next>("lcd_info_get_by_id_priv", "empty lcd list!",
+                                                                       1209, 1105),
+        by_key_in<libchs_btn_info_get_by_id, libchs_btn_info_get_next>("btn_info_get_by_id_priv", "empty button list!",
+                                                                       1309, 0),
+        by_key_in<libchs_fru_info_get_by_id, libchs_fru_info_get_next>("fru_info_get_by_id_priv", "empty fru list!",
+                                                                       201, 3),
         // 7: every port's front-panel port
-        by_key_in("bcm_port_info_get_by_port_no_priv", "empty asic list!", libchs_bcm_port_info_get_by_port_no, 8, 7,
-                  next_port),
-        by_key_in("epm_data_get_by_type_priv", "empty epm list!", epm_by_type, EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN,
-                  libchs_epm_data_get_next),
+        by_key_in<libchs_bcm_port_info_get_by_port_no, next_port>("bcm_port_info_get_by_port_no_priv",
+                                                                  "empty asic list!", 8, 7),
+        by_key_in<epm_of_type, libchs_epm_data_get_next>("epm_data_get_by_type_priv", "empty epm list!",
+                                                         EPM_TYPE_MAINBOARDID, EPM_TYPE_UNKNOWN),
     };
 }
 
@@ -398,7 +395,7 @@ void expect_nothing(bool logged) {
         SCOPED_TRACE(row.operation);
         EXPECT_EQ(row.next(nullptr), nullptr);
         expect_line(row);
-        EXPECT_EQ(row.next_of_lost(nullptr), nullptr);
+        EXPECT_EQ(row.next_of_lost(), nullptr);
         expect_line(row);
     }
     for (const lookup &row : lookups()) {
@@ -453,7 +450,7 @@ void expect_walk(const walk &row, const keys &expected) {
     EXPECT_EQ(take_log(), row.end_log());
     keys found_keys;
     for (void *record : found)
-        found_keys.push_back(row.key(record));
+        found_keys.push_back(row.type.key(record));
     EXPECT_EQ(found_keys, expected);
 
     const auto expect = [&](void *result, void *wanted, const char *what) {
@@ -461,8 +458,8 @@ void expect_walk(const walk &row, const keys &expected) {
         EXPECT_EQ(take_log(), wanted ? std::vector<log_line>{} : row.end_log()) << what;
     };
     for (void *record : found) {
-        const auto first =
-            std::find_if(found.begin(), found.end(), [&](void *one) { return row.place(one) == row.place(record); });
+        const auto first = std::find_if(found.begin(), found.end(),
+                                        [&](void *one) { return row.type.place(one) == row.type.place(record); });
         expect(row.next_of_copy(record), first + 1 == found.end() ? nullptr : *(first + 1), "a copy");
         expect(row.next_of_lost(record), nullptr, "an unknown record");
     }

@@ -26,8 +26,28 @@ class Ranges : public testing::TestWithParam<form> {
     }
 };
 
-// Calls visit(range, walk) for the ranges of libdst.hpp that only one of the forms can fill.
-void each_range_of(form source, auto visit) {
+template <class Range>
+concept cheap_view = std::ranges::forward_range<Range> && std::ranges::common_range<Range> &&
+    std::ranges::view<Range> && std::ranges::borrowed_range<Range>;
+static_assert(cheap_view<decltype(dst::fpcs())> && cheap_view<decltype(dst::ports_of_asic(0))>);
+
+// The records of a range, and those of the walk that it stands for.
+struct found {
+    std::vector<const void *> by_range, by_walk;
+    bool operator==(const found &) const = default;
+};
+
+void add(std::vector<found> &all, auto range, auto next) {
+    found &one = all.emplace_back();
+    for (auto &record : range)
+        one.by_range.push_back(&record);
+    for (auto *record : all_of(next))
+        one.by_walk.push_back(record);
+}
+
+// Those that only one of the forms can fill.
+void add_ranges_of(form source, std::vector<found> &all) {
+    const auto visit = [&all](auto range, auto next) { add(all, range, next); };
     if (source == form::xml) {
         const uint32_t asic = dst::asics().begin()->id;
         const uint32_t pic = dst::ports_of_asic(asic).begin()->pic_i2cid;
@@ -49,9 +69,10 @@ void each_range_of(form source, auto visit) {
     }
 }
 
-// Calls visit(range, walk) for every range of libdst.hpp.
-void each_range(form source, auto visit) {
-    each_range_of(source, visit);
+std::vector<found> every_range(form source) {
+    std::vector<found> all;
+    add_ranges_of(source, all);
+    const auto visit = [&all](auto range, auto next) { add(all, range, next); };
     visit(dst::i2c_devices(), libchs_i2c_dev_info_get_next);
     visit(dst::fans(), libchs_fan_info_get_next);
     visit(dst::pems(), libchs_pem_info_get_next);
@@ -107,19 +128,15 @@ void each_range(form source, auto visit) {
         dst::cbs(), [](auto &fru) { return dst::cbs(fru); }, libchs_fru_cb_info_get_next);
     on_fru(
         dst::pics(), [](auto &fru) { return dst::pics(fru); }, libchs_fru_pic_info_get_next);
+    return all;
 }
 
 TEST_P(Ranges, GiveTheRecordsOfTheirWalks) {
     int empty = 0;
-    each_range(GetParam(), [&empty](auto range, auto next) {
-        static_assert(std::ranges::forward_range<decltype(range)> && std::ranges::common_range<decltype(range)>);
-        static_assert(std::ranges::view<decltype(range)> && std::ranges::borrowed_range<decltype(range)>);
-        std::vector<decltype(next(nullptr))> found;
-        for (auto &record : range)
-            found.push_back(&record);
-        EXPECT_EQ(found, all_of(next));
-        empty += found.empty();
-    });
+    for (const found &one : every_range(GetParam())) {
+        EXPECT_EQ(one.by_range, one.by_walk);
+        empty += one.by_range.empty();
+    }
     EXPECT_EQ(empty, 1) << "the FRUs of TIB boards";
 }
 
@@ -135,19 +152,14 @@ TEST_P(Ranges, GoWithTheAlgorithms) {
 
 // Run under helgrind by scripts/test.
 TEST_P(Ranges, FourThreadsAtOnce) {
-    const auto count = [] {
-        std::vector<std::ptrdiff_t> counts;
-        each_range(GetParam(), [&counts](auto range, auto) { counts.push_back(std::ranges::distance(range)); });
-        return counts;
-    };
-    const auto alone = count();
-    std::vector<std::ptrdiff_t> counts[4];
+    const std::vector<found> alone = every_range(GetParam());
+    std::vector<found> together[4];
     std::vector<std::thread> threads;
-    for (auto &result : counts)
-        threads.emplace_back([&] { result = count(); });
+    for (auto &result : together)
+        threads.emplace_back([&result] { result = every_range(GetParam()); });
     for (std::thread &thread : threads)
         thread.join();
-    for (const auto &result : counts)
+    for (const auto &result : together)
         EXPECT_EQ(result, alone);
 }
 

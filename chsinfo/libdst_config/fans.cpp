@@ -1,6 +1,7 @@
 // Fan trays: "DEVICES" groups of "Type" "FAN", with "FAN" groups and their "SS2RPM" rows inside.
 // A new key: its member in libdst.h, its line here and in the dump, a case. A new controller: its enumerator and name
-// row, its records in libdst.h, their rows in records.h, its fans' readers and its row here, a case.
+// row, its records in libdst.h, their rows and its case of with_module() in records.h, its fans' readers and its row
+// here, a case.
 #include "devices.h"
 
 ss2rpm_fan_info_t *libconfig_dev_ss2rpm_read(void *handle) {

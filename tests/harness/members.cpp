@@ -1,4 +1,4 @@
-// A new record or member: its row in tests/abi/layout.def. A new record that another one begins: its line in name_of().
+// A new record or member: its row in tests/abi/layout.def.
 #include "members.h"
 
 #include <cinttypes>
@@ -39,19 +39,8 @@ template <class T, std::size_t Size> std::string numbers(const T (&array)[Size])
 }
 
 template <class T> const char *name_of(const T *) { return record_name<T>; }
-const char *name_of(const fan_info_t *tray) { // the module record that it begins
-    switch (tray->ctrl_type) {
-    case CTRL_TYPE_ADT7470:
-        return record_name<adt7470_module_info_t>;
-    case CTRL_TYPE_GFC0812:
-        return record_name<gfc0812_module_info_t>;
-    case CTRL_TYPE_9HV0812:
-        return record_name<haskel_9hv0812_module_info_t>;
-    case CTRL_TYPE_FANSYSPLD:
-        return record_name<pelian_fan_syspld_module_info_t>;
-    default:
-        return record_name<fan_info_t>;
-    }
+const char *name_of(fan_info_t *tray) {
+    return dst::with_module(tray, [](auto *module) { return record_name<std::remove_pointer_t<decltype(module)>>; });
 }
 
 template <class Head> void show_list(lines &out, const Head &list) {

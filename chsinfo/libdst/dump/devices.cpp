@@ -103,27 +103,27 @@ template <class K> static void print_boards(libdst_chs_info_t *model, int device
 }
 
 template <class Module, class Fan, std::size_t N>
-static void print_fans(const Module *module, const leaf<Fan> (&leaves)[N]) {
-    print_leaf(8, "NFANS", dec(module->nfans));
-    for (const Fan &fan : entries(module->fan_info)) {
+static void print_fans(const Module &module, const leaf<Fan> (&leaves)[N]) {
+    print_leaf(8, "NFANS", dec(module.nfans));
+    for (const Fan &fan : entries(module.fan_info)) {
         print_open(12, "FAN", {{"id", dec(fan.fan_id)}});
         print_leaves(16, leaves, fan);
         print_close(12, "FAN");
     }
 }
 
+static void print_module(const adt7470_module_info_t &module) { print_fans(module, adt7470_fan_leaves); }
+static void print_module(const gfc0812_module_info_t &module) {
+    print_fans(module, selected_fan_leaves<gfc0812_fan_info_t>);
+}
+static void print_module(const haskel_9hv0812_module_info_t &module) {
+    print_fans(module, selected_fan_leaves<haskel_9hv0812_fan_info_t>);
+}
+static void print_module(const pelian_fan_syspld_module_info_t &) {}
+static void print_module(const fan_info_t &) {}
+
 static void print_fan_module(fan_info_t &tray) {
-    switch (tray.ctrl_type) {
-    case CTRL_TYPE_ADT7470:
-        return print_fans(module_of<adt7470_module_info_t>(&tray), adt7470_fan_leaves);
-    case CTRL_TYPE_GFC0812:
-        return print_fans(module_of<gfc0812_module_info_t>(&tray), selected_fan_leaves<gfc0812_fan_info_t>);
-    case CTRL_TYPE_9HV0812:
-        return print_fans(module_of<haskel_9hv0812_module_info_t>(&tray),
-                          selected_fan_leaves<haskel_9hv0812_fan_info_t>);
-    default:
-        return;
-    }
+    with_module(&tray, [](auto *module) { print_module(*module); });
 }
 
 static void print_thresholds(const tmpsnr_info_t &sensor) {

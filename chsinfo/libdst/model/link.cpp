@@ -47,7 +47,7 @@ static void link_i2c_devices(libdst_chs_info_t *model, fru_module_list_t &entry)
     const auto extension = static_cast<uint32_t>(entry.i2cdev_id_ext);
     if (entry.i2cdev_id_ext == no_i2c_device) {
         fru.i2cdev_ext = nullptr;
-        fru.i2cdev = first_of(devices, [primary](auto &device) { return device.id == primary; });
+        fru.i2cdev = first_of(devices, [primary](const auto &device) { return device.id == primary; });
         return;
     }
     for (i2c_dev_info_t &device : devices) {

@@ -49,23 +49,28 @@ struct about<pelian_fan_syspld_module_info_t> : record<nullptr, &pelian_fan_sysp
 // The module record that a tray begins; only for a tray whose ctrl_type says so.
 template <class Module> Module *module_of(fan_info_t *tray) { return reinterpret_cast<Module *>(tray); }
 
+// visit(module) for that record; visit(tray) where the controller begins none.
+auto with_module(fan_info_t *tray, auto visit) {
+    switch (tray->ctrl_type) {
+    case CTRL_TYPE_ADT7470:
+        return visit(module_of<adt7470_module_info_t>(tray));
+    case CTRL_TYPE_FANSYSPLD:
+        return visit(module_of<pelian_fan_syspld_module_info_t>(tray));
+    case CTRL_TYPE_GFC0812:
+        return visit(module_of<gfc0812_module_info_t>(tray));
+    case CTRL_TYPE_9HV0812:
+        return visit(module_of<haskel_9hv0812_module_info_t>(tray));
+    default:
+        return visit(tray);
+    }
+}
+
 template <> struct about<fan_info_t> : record<nullptr> {};
 template <> struct about<fan_module_list_t> {
     static constexpr auto link = &fan_module_list_t::fan_next;
     static void release_owned(fan_module_list_t *node) {
-        fan_info_t *tray = node->fan_minfo;
-        switch (tray ? tray->ctrl_type : CTRL_TYPE_UNKNOWN) {
-        case CTRL_TYPE_ADT7470:
-            return release(module_of<adt7470_module_info_t>(tray));
-        case CTRL_TYPE_FANSYSPLD:
-            return release(module_of<pelian_fan_syspld_module_info_t>(tray));
-        case CTRL_TYPE_GFC0812:
-            return release(module_of<gfc0812_module_info_t>(tray));
-        case CTRL_TYPE_9HV0812:
-            return release(module_of<haskel_9hv0812_module_info_t>(tray));
-        default:
-            return release_member(node->fan_minfo);
-        }
+        if (node->fan_minfo)
+            with_module(node->fan_minfo, [](auto *module) { release(module); });
     }
 };
 

@@ -34,7 +34,7 @@ static bool find_schema(const char *document, char (&path)[PATH_MAX]) {
     char program[PATH_MAX] = "";
     if (readlink("/proc/self/exe", program, sizeof program - 1) < 0)
         return false;
-    return beside(program, DST_BIN_TO_DATA "/libdst/chassis_dst_schema.xsd", path);
+    return beside(program, DST_BIN_TO_DATA "/libdst/chassis_dst_schema.xsd", path) && access(path, R_OK) == 0;
 }
 
 // Whether there is a file to read; says so where there is none.

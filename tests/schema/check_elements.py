@@ -58,7 +58,7 @@ WIDER = {("CHASSIS/DEVICE", "REG_OFFSET"), ("CHASSIS/DEVICE", "CFPGAID")}
 
 
 def reader_tables(source_dir, compiler):
-    """Each table: its elements, and the handler of each. Each handler that is a row: what it reads."""
+    """Each table: its rows, an element and its handler. Each handler that is a row: what it reads."""
     tables, reads = {}, {}
     for source in sorted(pathlib.Path(source_dir, "chsinfo/libdst/xml").glob("*.cpp")):
         text = subprocess.run([*compiler, "-E", "-P", source], check=True, capture_output=True, text=True).stdout
@@ -66,8 +66,8 @@ def reader_tables(source_dir, compiler):
         # A name is a literal, or a constant of the same file.
         constants = dict(re.findall(r'constexpr char (\w+)\[\] = "(\w+)"', text))
         for table, rows in re.findall(r"(dst_tag_\w+)\[\] = \{(.*?)\{nullptr, nullptr\}", text):
-            tables[table] = {name.strip('"') if '"' in name else constants[name]: handler
-                             for name, handler in re.findall(r'\{("\w+"|\w+), (\w+)\}', rows)}
+            tables[table] = [(name.strip('"') if '"' in name else constants[name], handler)
+                             for name, handler in re.findall(r'\{("\w+"|\w+), (\w+)\}', rows)]
         for handler, parser in re.findall(r"static int (\w+)\([^)]*\) ?\{ ?(?:return )?libdst_parse_tag_(\w+)\(", text):
             reads[handler] = parser
         for handler, *names in re.findall(r"static int (\w+)\([^)]*\) ?\{ ?dst::kind_of\(dst::element_text\(doc, node\), "
@@ -137,6 +137,9 @@ def main():
                     for node in schema.iter(XS + "simpleType")}
     listed = {table for group in (TABLES, VALUES) for some in group.values() for table in some}
     problems = [f"{table} is not in the lists of this test" for table in tables.keys() ^ listed]
+    for table, rows in tables.items():
+        elements = [element for element, _ in rows]
+        problems += [f"{table}: {one} has a row already" for one in elements if elements.count(one) > 1]
 
     def compare(where, read, known):
         problems.extend(f"{where}: {name} is read, and not in the schema" for name in sorted(read - known))
@@ -145,7 +148,7 @@ def main():
     read = {place: set(records) for place, records in RECORDS.items()}
     compared = 0
     for place, some in TABLES.items():
-        for element, handler in (row for table in some for row in tables[table].items()):
+        for element, handler in (row for table in some for row in tables[table]):
             read.setdefault(place, set()).add(element)
             types = admitted.get(place, {}).get(element, set())
             what = reads.get(handler)
@@ -161,7 +164,7 @@ def main():
     for place in read.keys() | admitted.keys():
         compare(place, read.get(place, set()), set(admitted.get(place, {})))
     for one, some in VALUES.items():
-        compare(one, {name for table in some for name in tables[table]}, enumerations[one])
+        compare(one, {name for table in some for name, _ in tables[table]}, enumerations[one])
     for one, (table, first, last) in ATTRIBUTES.items():
         compare(one, names_between(names[table], first, last), enumerations[one])
     print("\n".join(problems) or f"{len(read)} places and {compared} values agree")

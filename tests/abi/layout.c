@@ -11,7 +11,7 @@
 
 #define SIZE(type, in32, in64)                                                                                         \
     static_assert(sizeof(type) == BITS(in32, in64), "size of " #type " is not " #in32 " (32 bit), " #in64 " (64 "      \
-                                                                                                          "bit)");
+                                                    "bit)");
 #define RECORD(type, in32, in64) SIZE(type, in32, in64)
 #define MEMBER(type, member, in32, in64)                                                                               \
     static_assert(offsetof(type, member) == BITS(in32, in64),                                                          \

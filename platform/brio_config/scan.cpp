@@ -15,8 +15,8 @@ static bool starts_with(const char *text, const char *start) {
     return std::strncmp(text, start, std::strlen(start)) == 0;
 }
 
-static bool is_one_of(char c, const char *characters) { return c && std::strchr(characters, c); }
-static bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\f' || c == '\r'; }
+template <char... Set> static bool is_one_of(char c) { return ((c == Set) || ...); }
+static bool is_blank(char c) { return is_one_of<' ', '\t', '\n', '\f', '\r'>(c); }
 static bool is_digit(char c) { return c >= '0' && c <= '9'; }
 static bool is_hex_digit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 static bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
@@ -113,20 +113,20 @@ refusal prepare(char *text) {
             if (!end)
                 return {"a text without an end", at};
             const bool in_values = last == ',' && depth > 0 && brackets[depth - 1] != '{';
-            if (!in_values && !is_one_of(last, "=:([\""))
+            if (!in_values && !is_one_of<'=', ':', '(', '[', '"'>(last))
                 *at = '!';
             at = end;
         } else if (starts_name(first)) {
             while (continues_name(*at))
                 ++at;
-        } else if (is_digit(first) || is_one_of(first, "+-.")) {
+        } else if (is_digit(first) || is_one_of<'+', '-', '.'>(first)) {
             at = rewrite_number(at);
         } else {
-            if (is_one_of(first, "{([")) {
+            if (is_one_of<'{', '(', '['>(first)) {
                 if (depth == max_depth)
                     return {"nested too deeply", at};
                 brackets[depth++] = first;
-            } else if (is_one_of(first, "})]") && depth > 0) {
+            } else if (is_one_of<'}', ')', ']'>(first) && depth > 0) {
                 --depth;
             }
             ++at;

@@ -2,7 +2,9 @@
 // row in libdst_dev_transform_handler().
 #include "link.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 
 #include "chsinfo/libdst_priv.h"
 #include "kinds.h"
@@ -13,9 +15,40 @@ namespace dst {
 constexpr uint32_t no_parent = 0xFFFFFFFF;
 constexpr int32_t no_i2c_device = -1;
 
-static fru_info_t *fru_by_id(libdst_chs_info_t *model, uint32_t id) {
-    return first_of(records<frus>(model), [id](const auto &fru) { return fru.id == id; });
-}
+// The ids of a list side by side, for a pass that looks for many: the records themselves lie far apart in memory.
+// Without memory for it, each search goes through the records.
+template <class K> class ids_of {
+  public:
+    explicit ids_of(libdst_chs_info_t *model) : records_(records<K>(model)) {
+        std::size_t count = 1; // for an empty list, too, there is a block
+        for ([[maybe_unused]] const auto &one : records_)
+            ++count;
+        first_ = end_ = static_cast<entry *>(std::malloc(count * sizeof(entry)));
+        if (first_)
+            for (auto &one : records_)
+                *end_++ = {one.id, &one};
+    }
+    ~ids_of() { std::free(first_); }
+    ids_of(const ids_of &) = delete;
+    ids_of &operator=(const ids_of &) = delete;
+
+    // The first record with the id, or null.
+    typename K::record_t *find(uint32_t id) const {
+        if (!first_)
+            return first_of(records_, [id](const auto &one) { return one.id == id; });
+        const entry *found = std::find_if(first_, end_, [id](const entry &one) { return one.id == id; });
+        return found == end_ ? nullptr : found->record;
+    }
+
+  private:
+    struct entry {
+        uint32_t id;
+        typename K::record_t *record;
+    };
+    record_range<K> records_;
+    entry *first_;
+    entry *end_;
+};
 
 // `word` names the family in the messages, which end with `line_end`.
 template <class K>
@@ -28,8 +61,9 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const char *wor
         log_err(func, "fru info list is empty!%s", line_end);
         return -1;
     }
+    const ids_of<frus> by_id(model);
     for (auto &node : entries(K::list(model))) {
-        fru_info_t *fru = fru_by_id(model, node.fru_id);
+        fru_info_t *fru = by_id.find(node.fru_id);
         if (!fru) {
             log_err(func, "Invalid fru info in %s info!%s", word, line_end);
             return -1;
@@ -40,17 +74,16 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const char *wor
 }
 
 // With an extension device wanted, a later device with the primary id replaces the link until both are found.
-static void link_i2c_devices(libdst_chs_info_t *model, fru_module_list_t &entry) {
+static void link_i2c_devices(libdst_chs_info_t *model, const ids_of<i2c_devices> &by_id, fru_module_list_t &entry) {
     fru_info_t &fru = entry.fru_minfo;
-    const auto devices = records<i2c_devices>(model);
     const auto primary = static_cast<uint32_t>(entry.i2cdev_id);
     const auto extension = static_cast<uint32_t>(entry.i2cdev_id_ext);
     if (entry.i2cdev_id_ext == no_i2c_device) {
         fru.i2cdev_ext = nullptr;
-        fru.i2cdev = first_of(devices, [primary](const auto &device) { return device.id == primary; });
+        fru.i2cdev = by_id.find(primary);
         return;
     }
-    for (i2c_dev_info_t &device : devices) {
+    for (i2c_dev_info_t &device : records<i2c_devices>(model)) {
         if (device.id == primary)
             fru.i2cdev = &device;
         if (device.id == extension)
@@ -90,21 +123,23 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model) {
         dst::log_at(LOG_INFO, __func__, "i2c dev info list is empty!");
         return 0;
     }
+    const dst::ids_of<dst::i2c_devices> devices(model);
     for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
         entry.fru_minfo.i2cdev = nullptr;
         if (entry.i2cdev_id < 0)
             continue;
-        dst::link_i2c_devices(model, entry);
+        dst::link_i2c_devices(model, devices, entry);
         if (!entry.fru_minfo.i2cdev) {
             dst::log_err(__func__, "Invalid i2c dev info in fru info!");
             return -1;
         }
     }
+    const dst::ids_of<dst::frus> frus(model);
     for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
         entry.fru_minfo.parent = nullptr;
         if (entry.parent_id == dst::no_parent)
             continue;
-        entry.fru_minfo.parent = dst::fru_by_id(model, entry.parent_id);
+        entry.fru_minfo.parent = frus.find(entry.parent_id);
         if (!entry.fru_minfo.parent) {
             dst::log_err(__func__, "Invalid parent fru dev info!");
             return -1;

@@ -27,6 +27,8 @@ std::string number(std::int64_t value) {
     return text;
 }
 
+std::string quoted(const char *text) { return *text ? '"' + std::string(text) + '"' : ""; }
+
 // Without the zeros at the end.
 template <class T, std::size_t Size> std::string numbers(const T (&array)[Size]) {
     std::size_t used = Size;
@@ -67,12 +69,12 @@ template <class T> void show(lines &out, std::size_t line, const char *name, con
     else if constexpr (dst::list_head<T>)
         show_list(out, member);
     else if constexpr (std::is_same_v<T, fru_info_t *> || std::is_same_v<T, i2c_dev_info_t *>)
-        value = member ? "@" + number(member->id) : "";
+        value = member ? "@" + number(member->id) + quoted(member->name) : "";
     else if constexpr (std::is_pointer_v<T> && std::is_class_v<std::remove_pointer_t<T>>) {
         if (member)
             show_record(out, name_of(member), member);
     } else if constexpr (std::is_same_v<std::remove_extent_t<T>, char>)
-        value = *member ? "\"" + std::string(member) + "\"" : "";
+        value = quoted(member);
     else if constexpr (std::is_array_v<T>)
         value = numbers(member);
     else if constexpr (std::is_floating_point_v<T>)

@@ -7,9 +7,9 @@
 #include "load.h"
 
 // A line a record: its type, and the members that are not zero, in their order. A record is followed by the records
-// that it embeds or owns, in the order of the members that hold them, a reference is the id that it leads to:
+// that it embeds or owns, in the order of the members that hold them, a reference is the id and name that it leads to:
 //
-//   fru_info_t i2cdev=@11 name="FPC 0" id=130 driverid=7
+//   fru_info_t i2cdev=@11"fpc0" name="FPC 0" id=130 driverid=7
 //   sim_assembly_id_t program_bytes=[255 1] program_bytes_read=3
 //
 // Zeros at the end of an array are left out; integers above 0xffff are hexadecimal.

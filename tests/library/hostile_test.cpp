@@ -55,6 +55,7 @@ std::vector<hostile> hostile_documents() {
     return {
         {"nesting", times(100000, "<A>"), "Excessive depth"},
         {"an attribute twice", "<A a='1' a='1'/>", "Attribute a redefined"},
+        {"a message too long for one line", "<" + std::string(3000, 'A') + "></B>", std::string(900, 'A') + "\n"},
         {"an entity bomb in a text", bomb("<VERSION>&a10;</VERSION>"), "entity reference loop"},
         {"an entity bomb in an attribute", bomb("<DEVICE type='&a10;'/>"), "entity reference loop"},
         {"an entity of itself", declaring("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "<VERSION>&a;</VERSION>"),

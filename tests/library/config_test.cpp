@@ -125,6 +125,57 @@ TEST_F(Config, CutsThePlatformsName) {
     EXPECT_TRUE(take_log().empty());
 }
 
+// Cases compare without indentation, and no dump in tests/golden/ is of a configuration tree.
+TEST_F(Config, IndentsResiliencyData) {
+    const std::string out = load_config(R"(RESILIENCY = 4; SIBINITSPMB = 5;
+        RESILMODEL = (
+            { Type = "FPC"; ASSEMBLYID = 0xB4E; NMODULES = 7; MODULE = (
+                { MNAME = "bridge"; KEY = 0xAB12; NERRORS = 9; ERRORS = (
+                    { OFFSET = 0x1F; CHANNEL = 200; THRESHOLD = 0x80000000; LIMIT = 12; PERSIST = 13; DESC = "parity"; },
+                    { CHANNEL = 1; THRESHOLD = 2; LIMIT = 3; PERSIST = 4; } ); },
+                { } ); },
+            { } );
+)")
+                                .out;
+    EXPECT_NE(out.find("    <RESILIENCY>4</RESILIENCY>\n    <SIBINITSPMB>5</SIBINITSPMB>\n"), std::string::npos) << out;
+    const auto section = out.find("    <RESILMODEL>");
+    ASSERT_NE(section, std::string::npos) << out;
+    EXPECT_EQ(out.substr(section), R"(    <RESILMODEL>
+        <FRU Type="FPC" ASSEMBLYID="0xb4e">
+            <MODULE>
+            <KEY>ab12</KEY>
+            <NERRORS>9</NERRORS>
+            <MNAME>bridge</MNAME>
+                <ERRORS>
+                <OFFSET>1f</OFFSET>
+                <CHANNEL>200</CHANNEL>
+                <THRESHOLD>-2147483648</THRESHOLD>
+                <LIMIT>12</LIMIT>
+                <PERSIST>13</PERSIST>
+                <DESC>parity</DESC>
+                </ERRORS>
+                <ERRORS>
+                <OFFSET>0</OFFSET>
+                <CHANNEL>1</CHANNEL>
+                <THRESHOLD>2</THRESHOLD>
+                <LIMIT>3</LIMIT>
+                <PERSIST>4</PERSIST>
+                <DESC></DESC>
+                </ERRORS>
+            </MODULE>
+            <MODULE>
+            <KEY>0</KEY>
+            <NERRORS>0</NERRORS>
+            <MNAME></MNAME>
+            </MODULE>
+        </FRU>
+        <FRU Type="" ASSEMBLYID="0x0">
+        </FRU>
+    </RESILMODEL>
+</CHASSIS>
+)");
+}
+
 // ---- The walk over the devices
 
 struct walked {

@@ -148,6 +148,7 @@ TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
     const auto parse = [](const char *text) { return xmlReadMemory(text, strlen(text), nullptr, nullptr, 0); };
     xmlDocPtr mine = parse("<a>before</a>");
     const xmlExternalEntityLoader loader = xmlGetExternalEntityLoader();
+    const xmlCatalogAllow catalogues = xmlCatalogGetDefaults();
     xmlCatalogSetDefaults(XML_CATA_ALLOW_DOCUMENT);
     for (const step &one : steps) {
         SCOPED_TRACE(one.name);
@@ -172,6 +173,7 @@ TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
     EXPECT_EQ(xmlGenericErrorContext, &mine);
     xmlSetExternalEntityLoader(loader);
     xmlSetGenericErrorFunc(nullptr, nullptr);
+    xmlCatalogSetDefaults(catalogues);
     xmlCleanupParser();
 }
 

@@ -63,20 +63,26 @@ static const char *local_path(const char *url) {
 // What is there by this name may not be opened: it is not local, or no regular file and might wait forever.
 static bool is_barred(const char *url) {
     const char *path = local_path(url);
+    if (!path || std::strcmp(path, "-") == 0)
+        return true;
     struct stat found;
-    return !path || std::strcmp(path, "-") == 0 || (stat(path, &found) == 0 && !S_ISREG(found.st_mode));
+    for (const char *name : {path, url}) // some of libxml2's openers do not know all schemes
+        if (stat(name, &found) == 0 && !S_ISREG(found.st_mode))
+            return true;
+    return false;
 }
 
 static xmlExternalEntityLoader load_regular_file;
 
 // Refuses, before it is opened, whatever libxml2 would load that is no local regular file, or is part of a document
-// that is being read: included ones, unlike the main one, would bring in their DTD.
+// that is being read: included ones, unlike the main one, would bring in their DTD. The schema, which alone is parsed
+// with its entities, may.
 static xmlParserInputPtr load_guarded(const char *url, const char *id, xmlParserCtxtPtr parser) {
     const char *refusal = nullptr;
     const xml_text unescaped(BAD_CAST xmlURIUnescapeString(url, 0, nullptr)); // libxml2 tries both
     if (!url || is_barred(url) || (unescaped && is_barred(unescaped.get())))
         refusal = "not a local regular file";
-    else if (parser && parser->inputNr > 0)
+    else if (parser && parser->inputNr > 0 && !(parser->options & XML_PARSE_NOENT))
         refusal = "external entities and DTDs are not read";
     if (!refusal)
         return load_regular_file(url, id, parser);

@@ -32,6 +32,12 @@ void *__wrap_calloc(std::size_t count, std::size_t size) {
     const bool fails = failing_from && allocations >= failing_from && allocations <= failing_to;
     return fails ? nullptr : __real_calloc(count, size);
 }
+
+// The library asks malloc() for what it can do without.
+bool no_malloc;
+void *__real_malloc(std::size_t size);
+void *__wrap_malloc(std::size_t size);
+void *__wrap_malloc(std::size_t size) { return no_malloc ? nullptr : __real_malloc(size); }
 }
 
 namespace {
@@ -62,6 +68,20 @@ TEST(Memory, RunsOutInTheReader) {
         libchs_release();
     }
     EXPECT_GT(failures, 100);
+}
+
+TEST(Memory, IsNotNeededToLink) {
+    for (const load_case &one : all_cases()) {
+        SCOPED_TRACE(one);
+        const load_result whole = load(one.document);
+        libchs_release();
+        no_malloc = true;
+        const load_result without = load(one.document);
+        no_malloc = false;
+        EXPECT_EQ(without.log, whole.log);
+        EXPECT_EQ(without.dump(), whole.dump());
+        libchs_release();
+    }
 }
 
 // The whole chain, innermost first, of the allocation that fails.

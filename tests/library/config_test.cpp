@@ -4,10 +4,14 @@
 #include <cstdlib>
 #include <fstream>
 #include <functional>
+#include <map>
+#include <regex>
 #include <sys/stat.h>
 #include <tuple>
 
+#include "../harness/cases.h"
 #include "../harness/config.h"
+#include "../harness/members.h"
 #include "chsinfo/libdst/model/kinds.h"
 
 namespace {
@@ -174,6 +178,53 @@ TEST_F(Config, IndentsResiliencyData) {
     </RESILMODEL>
 </CHASSIS>
 )");
+}
+
+// ---- The keys of records
+
+// The members of a record's line, by line and name.
+std::map<std::string, std::string> values_of(const texts &records) {
+    std::map<std::string, std::string> values;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        static const std::regex member(R"((\w+)=("[^"]*"|\S+))");
+        for (std::sregex_iterator at(records[i].begin(), records[i].end(), member), end; at != end; ++at)
+            values[std::to_string(i) + " " + at->str(1)] = at->str(2);
+    }
+    return values;
+}
+
+// Each key of the cases that show all keys is left out in turn: no other member may depend on it.
+TEST_F(Config, AMissingKeyChangesItsMemberAlone) {
+    const std::regex key_of_value(R"(\b([A-Z][A-Z0-9_]+) = (-?[0-9][0-9a-fx.]*|"[^"]*");)");
+    int changed = 0;
+    for (const load_case &one : all_cases(DST_TEST_DATA "/config")) {
+        if (one.file != "members")
+            continue;
+        ASSERT_EQ(load_config(one.document).status, 0);
+        const texts whole = members_of_model(form::config);
+        const auto values = values_of(whole);
+        for (std::sregex_iterator at(one.document.begin(), one.document.end(), key_of_value), end; at != end; ++at) {
+            const std::string key = at->str(1);
+            if (key == "FRUID") // is followed
+                continue;
+            SCOPED_TRACE(one.name + ": " + at->str());
+            std::string without = one.document;
+            without.erase(at->position(), at->length());
+            ASSERT_EQ(load_config(without).status, 0);
+            const texts records = members_of_model(form::config);
+            if (records.size() < whole.size()) { // a sensor that insists on it
+                EXPECT_TRUE(key == "REG_OFFSET" || key == "DRIVERID");
+                continue;
+            }
+            const auto left = values_of(records);
+            int differences = 0;
+            for (const auto &[member, value] : values)
+                differences += !left.contains(member) || left.at(member) != value;
+            EXPECT_LE(differences, key == "SLOTID" ? 2 : 1) << testing::PrintToString(records);
+            changed += differences;
+        }
+    }
+    EXPECT_GT(changed, 150);
 }
 
 // ---- The walk over the devices

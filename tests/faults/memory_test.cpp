@@ -140,10 +140,6 @@ TEST(Memory, IsMissedByTheReaderThatAskedForIt) {
     }
 }
 
-load_result load_tree(const load_case &one) {
-    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
-}
-
 // A configuration tree's lists end early where memory runs out, or the read fails.
 TEST(Memory, CutsTheListsOfAConfigurationTree) {
     int cut = 0;
@@ -151,7 +147,7 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
     for (const load_case &one : all_cases(DST_TEST_DATA "/config")) {
         SCOPED_TRACE(one);
         fail_allocations(0, 0);
-        const load_result whole = load_tree(one);
+        const load_result whole = load(form::config, one);
         const auto whole_dump = whole.dump();
         const int needed = allocations;
         libchs_release();
@@ -159,7 +155,7 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
             for (int last : {n, INT32_MAX}) {
                 SCOPED_TRACE(std::to_string(n) + (last == n ? " alone" : " and all after it"));
                 fail_allocations(n, last);
-                const load_result result = load_tree(one);
+                const load_result result = load(form::config, one);
                 fail_allocations(0, 0);
                 if (result.status < 0) {
                     ASSERT_TRUE(model_is_zero());
@@ -177,7 +173,7 @@ TEST(Memory, CutsTheListsOfAConfigurationTree) {
                 libchs_release();
             }
         }
-        EXPECT_EQ(load_tree(one).dump(), whole_dump) << "a following load is as the first";
+        EXPECT_EQ(load(form::config, one).dump(), whole_dump) << "a following load is as the first";
         libchs_release();
     }
     EXPECT_GT(cut, 50);

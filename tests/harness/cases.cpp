@@ -49,6 +49,12 @@ std::vector<load_case> all_cases(const std::string &folder) {
     return cases;
 }
 
+load_result load(form source, const load_case &one) {
+    if (source == form::xml)
+        return load(one.document);
+    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
+}
+
 std::vector<std::string> failure_tail(const std::string &heading) {
     std::vector<std::string> tail;
     if (heading == "fails")

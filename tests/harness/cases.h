@@ -20,6 +20,8 @@
 #include <string>
 #include <vector>
 
+#include "load.h"
+
 struct load_case {
     std::string file;
     int line;
@@ -33,6 +35,9 @@ std::ostream &operator<<(std::ostream &out, const load_case &one); // where it s
 
 // The cases of all .cases files of a folder; without one, of tests/cases/.
 std::vector<load_case> all_cases(const std::string &folder = DST_TEST_DATA);
+
+// Loads what the case describes.
+load_result load(form source, const load_case &one);
 
 // The lines that follow those of a "fails" heading, in the XML form.
 std::vector<std::string> failure_tail(const std::string &heading);

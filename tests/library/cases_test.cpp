@@ -42,14 +42,8 @@ std::string first_missing(const std::vector<std::string> &wanted, const std::vec
 
 using texts = std::vector<std::string>;
 
-load_result load_one(form source, const load_case &one) {
-    if (source == form::xml)
-        return load(one.document);
-    return load_config(one.document, one.simulation.empty() ? "" : "CHASSIS = {\n" + one.simulation + "};\n");
-}
-
 texts empty_dump(form source) {
-    texts lines = load_one(source, {}).dump();
+    texts lines = load(source, {}).dump();
     libchs_release();
     return lines;
 }
@@ -58,7 +52,7 @@ texts empty_dump(form source) {
 void expect_case(form source, const load_case &one) {
     SCOPED_TRACE(one);
     static const texts empty[] = {empty_dump(form::xml), empty_dump(form::config)};
-    const load_result result = load_one(source, one);
+    const load_result result = load(source, one);
     const auto errors = texts_of(result.log, LOG_ERR);
     const auto expected_lines = [&](const char *heading) {
         const auto found = one.expected.find(heading);

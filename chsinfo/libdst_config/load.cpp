@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "chsinfo/libdst/model/broken_pipe.h"
 #include "chsinfo/libdst/model/log.h"
 #include "chsinfo/paths.h"
 #include "readers.h"
@@ -27,6 +28,7 @@ int libconfig_root_handler(libdst_chs_info_t *model) {
 }
 
 int libdst_config_init(const dst::config_source &source) {
+    const dst::broken_pipe_guard printing;
     static_cast<void>(brio_config_init(source.file, 0, source.sim_folder, config_assert));
     libdst_chs_info_t *model = libdst_get_chs_info();
     int rc = libconfig_root_handler(model);

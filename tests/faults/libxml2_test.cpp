@@ -1,4 +1,5 @@
-// Calls of libxml2 that fail: each gives its line, and the load ends cleanly.
+// Calls of libxml2 that fail, and a document that is another one when it is read: each gives its line, and the load
+// ends cleanly.
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
@@ -11,7 +12,7 @@ int document_reads;
 
 namespace {
 
-enum class call { none, new_parser, new_validator, validate, first_read, second_read };
+enum class call { none, new_parser, new_validator, validate, first_read, second_read, exchanged };
 call failing = call::none;
 
 } // namespace
@@ -35,6 +36,8 @@ xmlDocPtr __wrap_xmlReadFile(const char *path, const char *encoding, int options
     ++document_reads;
     const bool fails =
         (failing == call::first_read && document_reads == 1) || (failing == call::second_read && document_reads == 2);
+    if (failing == call::exchanged && document_reads == 2)
+        write_platform_file("chassis_dst.xml", "<CHASSIS><VERSION>2</VERSION></CHASSIS>");
     return fails ? nullptr : __real_xmlReadFile(path, encoding, options);
 }
 }
@@ -59,12 +62,13 @@ TEST(Libxml2, FailsCallByCall) {
          ""},
         {call::validate, {not_valid}, "/var/platform/chassis_dst.xml validation generated an internal error!\n"},
         {call::second_read, {"libdst_xml_parse: Unable to parse XML file"}, "validates OK!\n"},
+        {call::exchanged, {"libdst_xml_parse: Unable to parse XML file"}, "validates OK!\n"},
     };
     for (const auto &one : cases) {
         SCOPED_TRACE(static_cast<int>(one.fails));
         failing = one.fails;
         document_reads = 0;
-        const load_result result = load("<VERSION>1</VERSION>");
+        const load_result result = load("<CHASSIS><VERSION>1</VERSION></CHASSIS>");
         failing = call::none;
         auto expected = one.log;
         expected.insert(expected.end(), {"libdst_init: Failed to parse Device Specification XML to libchassis info!",
@@ -75,7 +79,7 @@ TEST(Libxml2, FailsCallByCall) {
         EXPECT_TRUE(model_is_zero());
         libchs_release();
     }
-    EXPECT_EQ(load("<VERSION>1</VERSION>").status, 0);
+    EXPECT_EQ(load("<CHASSIS><VERSION>1</VERSION></CHASSIS>").status, 0);
     libchs_release();
 }
 

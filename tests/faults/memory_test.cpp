@@ -1,6 +1,7 @@
 // Memory that runs out: each allocation of the library made to fail, alone and with all after it, on every case.
 #include <cstring>
 #include <gtest/gtest.h>
+#include <libxml/xmlerror.h>
 #include <libxml/xmlmemory.h>
 #include <set>
 
@@ -308,6 +309,8 @@ char *duplicate(const char *text) { return fails() ? nullptr : static_cast<char 
 
 } // namespace xml_memory
 
+void report_nothing(void *, xmlErrorPtr) {}
+
 TEST(Memory, RunsOutInLibxml2) {
     xmlMemSetup(xml_memory::release, xml_memory::allocate, xml_memory::reallocate, xml_memory::duplicate);
     write_platform_file("more.xml", R"(<FRUMODEL><MODEL id="1" type="FAN"><NAME>included</NAME></MODEL></FRUMODEL>)");
@@ -332,6 +335,7 @@ TEST(Memory, RunsOutInLibxml2) {
             SCOPED_TRACE(std::to_string(n) + (last == n ? " alone" : " and all after it"));
             xml_memory::failing_from = n;
             xml_memory::failing_to = last;
+            xmlSetStructuredErrorFunc(nullptr, n % 2 ? report_nothing : nullptr); // which libxml2 then calls alone
             const load_result result = load_anew();
             xml_memory::failing_from = 0;
             if (result.status < 0) {
@@ -347,6 +351,7 @@ TEST(Memory, RunsOutInLibxml2) {
         }
     }
     EXPECT_GT(failures, 50);
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
     xmlMemSetup(std::free, std::malloc, std::realloc, strdup);
 }
 

@@ -136,6 +136,8 @@ TEST_F(Guest, AThousandLivesLeaveNoMemory) {
 
 void print_nothing(void *, const char *, ...) {}
 
+void report_nothing(void *, xmlErrorPtr) {}
+
 xmlParserInputPtr load_nothing(const char *, const char *, xmlParserCtxtPtr) { return nullptr; }
 
 TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
@@ -147,16 +149,9 @@ TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
     };
     const auto parse = [](const char *text) { return xmlReadMemory(text, strlen(text), nullptr, nullptr, 0); };
     xmlDocPtr mine = parse("<a>before</a>");
-    const xmlExternalEntityLoader loader = xmlGetExternalEntityLoader();
-    const xmlCatalogAllow catalogues = xmlCatalogGetDefaults();
-    xmlCatalogSetDefaults(XML_CATA_ALLOW_DOCUMENT);
     for (const step &one : steps) {
         SCOPED_TRACE(one.name);
-        xmlLineNumbersDefault(0);
         one.run();
-        EXPECT_EQ(xmlLineNumbersDefault(0), 0) << "the host's own choice";
-        EXPECT_EQ(xmlGetExternalEntityLoader(), loader);
-        EXPECT_EQ(xmlCatalogGetDefaults(), XML_CATA_ALLOW_DOCUMENT);
         EXPECT_EQ(xmlGetLastError(), nullptr);
         EXPECT_EQ(text_of_root(mine), "before");
         xmlDocPtr between = parse("<a>between</a>");
@@ -164,17 +159,74 @@ TEST_F(Guest, TheHostUsesLibxml2BeforeBetweenAndAfter) {
         xmlFreeDoc(between);
     }
     xmlFreeDoc(mine);
+}
 
+// Whatever the host chose, a load gives the same, and the choice stays.
+TEST_F(Guest, TheHostsSettingsOfLibxml2AreNeitherUsedNorLost) {
+    const struct {
+        int &setting;
+        int other;
+    } settings[] = {{xmlSubstituteEntitiesDefaultValue, 1}, {xmlDoValidityCheckingDefaultValue, 1},
+                    {xmlLoadExtDtdDefaultValue, 1},         {xmlKeepBlanksDefaultValue, 0},
+                    {xmlPedanticParserDefaultValue, 1},     {xmlGetWarningsDefaultValue, 0},
+                    {xmlLineNumbersDefaultValue, 0}};
+    const char document[] = "<!DOCTYPE CHASSIS SYSTEM 'secret' [<!ENTITY e SYSTEM 'secret'>]>"
+                            "<CHASSIS><VERSION> </VERSION><PCIBUSADDR>&e;</PCIBUSADDR></CHASSIS>";
+    write_platform_file("secret", "<!broken");
+    std::vector<int> before;
+    const load_result usual = load(document);
+    for (const auto &one : settings)
+        before.push_back(std::exchange(one.setting, one.other));
+    const xmlExternalEntityLoader loader = xmlGetExternalEntityLoader();
+    const xmlCatalogAllow catalogues = xmlCatalogGetDefaults();
+    int mine = 0;
+    xmlCatalogSetDefaults(XML_CATA_ALLOW_DOCUMENT);
     xmlSetExternalEntityLoader(load_nothing);
+    const load_result result = load(document);
+    EXPECT_EQ(result.status, usual.status);
+    EXPECT_EQ(result.log, usual.log);
+    EXPECT_EQ(result.err, usual.err);
+    EXPECT_EQ(result.err.find("secret"), std::string::npos) << result.err;
     xmlSetGenericErrorFunc(&mine, print_nothing);
-    EXPECT_LT(load("").status, 0) << "the host's loader loads the files, too";
+    xmlSetStructuredErrorFunc(&mine, report_nothing);
+    EXPECT_LT(load("<").status, 0);
+    for (std::size_t i = 0; i < std::size(settings); ++i)
+        EXPECT_EQ(std::exchange(settings[i].setting, before[i]), settings[i].other) << i;
     EXPECT_EQ(xmlGetExternalEntityLoader(), load_nothing);
+    EXPECT_EQ(xmlCatalogGetDefaults(), XML_CATA_ALLOW_DOCUMENT);
     EXPECT_EQ(xmlGenericError, print_nothing);
     EXPECT_EQ(xmlGenericErrorContext, &mine);
+    EXPECT_EQ(xmlStructuredError, report_nothing);
+    EXPECT_EQ(xmlStructuredErrorContext, &mine);
     xmlSetExternalEntityLoader(loader);
     xmlSetGenericErrorFunc(nullptr, nullptr);
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
     xmlCatalogSetDefaults(catalogues);
     xmlCleanupParser();
+    write_platform_file("secret", "");
+}
+
+// In a process of its own, whose standard output is a pipe without a reader, and has a line of its own waiting.
+TEST_F(Guest, ABrokenPipeEndsNothing) {
+    for (const form source : {form::xml, form::config}) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            int ends[2];
+            if (pipe(ends) != 0 || dup2(ends[1], 1) != 1 || close(ends[0]) != 0)
+                _exit(2);
+            place_example("modular", source);
+            const host_state before = host_state::now();
+            std::puts("mine");
+            const int status = libchs_init();
+            host_state::now().expect_same(before);
+            std::fflush(stdout); // nothing is left that would end the host now
+            _exit(status == 0 && !HasFailure() ? 0 : 1);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_EQ(status, 0);
+    }
 }
 
 } // namespace

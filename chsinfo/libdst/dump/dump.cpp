@@ -1,5 +1,6 @@
 // display_dst_info(): the model as indented, XML-like text on standard output, section by section.
 // A new leaf is a row of its record's table. A new section is a function, called by display_dst_info() in its place.
+#include "../model/broken_pipe.h"
 #include "sections.h"
 
 namespace dst {
@@ -72,6 +73,7 @@ static void print_fru(const fru_info_t &fru) {
 } // namespace dst
 
 void display_dst_info(void) {
+    const dst::broken_pipe_guard printing;
     libdst_chs_info_t *model = libdst_get_chs_info();
     std::puts("\n\n============== DST info =============");
     dst::print_open(0, "CHASSIS");

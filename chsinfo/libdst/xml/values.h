@@ -45,6 +45,15 @@ class xml_text {
 // none.
 inline xmlNodePtr content_of(const xmlNode *node) { return node->type == XML_ELEMENT_NODE ? node->children : nullptr; }
 
+// The next node of a document, as written; null at its end.
+inline const xmlNode *next_node(const xmlNode *node) {
+    if (const xmlNode *child = content_of(node))
+        return child;
+    while (node && !node->next)
+        node = node->parent;
+    return node ? node->next : nullptr;
+}
+
 // Whether libxml2 missed memory since its last error was reset: what it handed out since may be cut or missing.
 bool out_of_memory();
 

@@ -1,5 +1,6 @@
 #include "brio_config.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cmath>
@@ -15,6 +16,7 @@
 #include <syslog.h>
 #include <unistd.h>
 
+#include "platform/files.h"
 #include "scan.h"
 
 namespace {
@@ -66,17 +68,28 @@ class descriptor {
     int fd_;
 };
 
-// Null, with errno, for what cannot be read. The size is found by reading: a file may change meanwhile.
+constexpr std::size_t max_bytes{dst::max_tree_bytes};
+static_assert(max_bytes < INT_MAX, "libconfig's scanner counts in int");
+
+// Null, with errno, for what cannot be read; EFBIG for what is too large, also where only reading shows it: a file may
+// change meanwhile.
 heap_text read_all(int fd, std::size_t &size) {
+    struct stat64 status;
+    if (fstat64(fd, &status) != 0)
+        return nullptr;
+    if (status.st_size > dst::max_tree_bytes) {
+        errno = EFBIG;
+        return nullptr;
+    }
     heap_text text;
     std::size_t capacity = 0;
     for (size = 0;;) {
         if (capacity - size < 2) {
-            capacity = 2 * capacity + 4096;
-            if (capacity > INT_MAX) { // libconfig's scanner counts in int
+            if (size > max_bytes) {
                 errno = EFBIG;
                 return nullptr;
             }
+            capacity = std::min(2 * capacity + 4096, max_bytes + 2);
             char *const grown = static_cast<char *>(std::realloc(text.get(), capacity));
             if (!grown)
                 return nullptr;
@@ -97,23 +110,22 @@ heap_text read_all(int fd, std::size_t &size) {
 // A file that is not there is nothing to log.
 heap_text read_file(const char *path, std::size_t &size) {
     int opened;
-    do // without waiting for the writer of a FIFO
-        opened = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    do
+        opened = open(path, dst::open_flags);
     while (opened < 0 && errno == EINTR);
     const descriptor file(opened);
     if (opened < 0 && errno == ENOENT)
         return nullptr;
     heap_text text;
-    struct stat status;
-    if (opened >= 0 && fstat(opened, &status) == 0) {
-        if (!S_ISREG(status.st_mode)) {
-            syslog(LOG_ERR, "%s: not a regular file", path);
-            return nullptr;
-        }
-        text = read_all(opened, size);
+    if (opened >= 0) {
+        errno = 0; // stays so for a file that is not plain
+        if (dst::is_plain_file(opened))
+            text = read_all(opened, size);
     }
-    if (!text)
-        syslog(LOG_ERR, "%s: %s", path, std::strerror(errno));
+    if (!text && errno == EFBIG)
+        syslog(LOG_ERR, "%s: larger than %zu bytes", path, max_bytes);
+    else if (!text)
+        syslog(LOG_ERR, "%s: %s", path, errno ? std::strerror(errno) : "not a regular file");
     return text;
 }
 
@@ -192,6 +204,19 @@ brio_cfg_status_t store_int(const config_setting_t *setting, int *value) {
     return BRIO_CONFIG_SUCCESS;
 }
 
+// The number as it is written; not finite when there is none that fits.
+double number_of(const config_setting_t *setting) {
+    const int type = setting ? config_setting_type(setting) : CONFIG_TYPE_NONE;
+    if (type == CONFIG_TYPE_FLOAT)
+        return config_setting_get_float(setting);
+    if (type != CONFIG_TYPE_INT)
+        return NAN;
+    const int value = config_setting_get_int(setting);
+    // No hexadecimal number is negative: it is of the upper half.
+    const bool upper_half = value < 0 && config_setting_get_format(setting) == CONFIG_FORMAT_HEX;
+    return upper_half ? static_cast<unsigned>(value) : static_cast<double>(value);
+}
+
 brio_cfg_status_t visit(config_setting_t *setting, void *context, brio_config_get_fn_t callback) {
     return setting ? callback(setting, context) : BRIO_CONFIG_FAIL;
 }
@@ -249,10 +274,7 @@ brio_cfg_status_t brio_config_str_read(void *handle, const char *key, const char
 brio_cfg_status_t brio_config_float_read(void *handle, const char *key, double *value) {
     if (!well_used(__func__, {{"null handle", handle}, {"null key", key}, {"null value", value}}))
         return BRIO_CONFIG_FAIL;
-    const config_setting_t *const setting = member(handle, key);
-    if (!setting || config_setting_type(setting) != CONFIG_TYPE_FLOAT)
-        return BRIO_CONFIG_FAIL;
-    const double number = config_setting_get_float(setting);
+    const double number = number_of(member(handle, key));
     if (!std::isfinite(number))
         return BRIO_CONFIG_FAIL;
     *value = number;

@@ -65,8 +65,9 @@ static char *rewrite_number(char *number) {
     char *end;
     const long long value = std::strtoll(number, &end, hexadecimal ? 16 : 10);
     const bool has_sign = *number == '+' || *number == '-';
+    char *const digits = number + has_sign;
     if (end == number)
-        end += has_sign;
+        end = digits;
     if (*end == '.')
         return skip_exponent(skip_digits(end + 1));
     char *const exponent_end = skip_exponent(end);
@@ -74,14 +75,18 @@ static char *rewrite_number(char *number) {
         return exponent_end;
     for (int suffix = 0; suffix < 2 && *end == 'L'; ++suffix)
         *end++ = ' ';
-    if (value < INT32_MIN || value > INT32_MAX) {
-        char plain[sizeof "0xFFFFFFFF"] = "1e999"; // no longer than the number that it replaces
-        if (value > 0 && value <= UINT32_MAX && !continues_name(*end))
-            std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
-        std::fill(number, end, ' ');
-        // A name before the sign stays apart.
-        std::copy(plain, plain + std::strlen(plain), number + has_sign);
-    }
+    const bool is_int = value >= INT32_MIN && value <= INT32_MAX;
+    const bool reads_as_octal = *digits == '0' && is_digit(digits[1]);
+    if (is_int && !reads_as_octal)
+        return end;
+    char plain[sizeof "-2147483648"] = "1e999"; // no longer than the number that it replaces
+    if (is_int)
+        std::snprintf(plain, sizeof plain, "%d", static_cast<int>(value));
+    else if (value > 0 && value <= UINT32_MAX)
+        std::snprintf(plain, sizeof plain, "0x%08X", static_cast<unsigned>(value));
+    std::fill(number, end, ' ');
+    // A name before the sign stays apart.
+    std::copy(plain, plain + std::strlen(plain), digits);
     return end;
 }
 
@@ -121,13 +126,17 @@ refusal prepare(char *text) {
                 ++at;
         } else if (is_digit(first) || is_one_of<'+', '-', '.'>(first)) {
             at = rewrite_number(at);
+            if (continues_name(*at))
+                *at = '!';
         } else {
             if (is_one_of<'{', '(', '['>(first)) {
                 if (depth == max_depth)
                     return {"nested too deeply", at};
                 brackets[depth++] = first;
-            } else if (is_one_of<'}', ')', ']'>(first) && depth > 0) {
-                --depth;
+            } else if (is_one_of<'}', ')', ']'>(first)) {
+                depth -= depth > 0;
+                if (last == ',' && first != '}')
+                    *at = '!';
             }
             ++at;
         }

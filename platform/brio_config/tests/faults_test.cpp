@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "tests/harness/capture.h"
 
@@ -18,6 +19,7 @@ const char *failing = ""; // the function of which a call fails
 int fails_at;             // which call, from 1
 int error;
 std::size_t read_limit;
+bool endless; // reads say that they have read all that was asked for
 std::map<std::string, int> calls;
 
 bool fails(const char *function) {
@@ -37,29 +39,37 @@ void fail(const char *function, int call, int with) {
 } // namespace
 
 extern "C" {
-int __real_open64(const char *path, int flags, ...);
-int __wrap_open64(const char *path, int flags, ...);
-int __wrap_open64(const char *path, int flags, ...) {
+int __real_open(const char *path, int flags, ...);
+int __wrap_open(const char *path, int flags, ...);
+int __wrap_open(const char *path, int flags, ...) {
     if (fails("open"))
         return -1;
     EXPECT_FALSE(flags & O_CREAT);
-    return __real_open64(path, flags);
+    return __real_open(path, flags);
 }
 
 int __real_fstat64(int fd, void *status);
 int __wrap_fstat64(int fd, void *status);
 int __wrap_fstat64(int fd, void *status) { return fails("fstat") ? -1 : __real_fstat64(fd, status); }
 
+int __real_fstatfs64(int fd, void *status);
+int __wrap_fstatfs64(int fd, void *status);
+int __wrap_fstatfs64(int fd, void *status) { return fails("fstatfs") ? -1 : __real_fstatfs64(fd, status); }
+
 ssize_t __real_read(int fd, void *buffer, std::size_t size);
 ssize_t __wrap_read(int fd, void *buffer, std::size_t size);
 ssize_t __wrap_read(int fd, void *buffer, std::size_t size) {
-    return fails("read") ? -1 : __real_read(fd, buffer, std::min(size, read_limit));
+    if (fails("read"))
+        return -1;
+    return endless ? static_cast<ssize_t>(size) : __real_read(fd, buffer, std::min(size, read_limit));
 }
 
 void *__real_realloc(void *memory, std::size_t size);
 void *__wrap_realloc(void *memory, std::size_t size);
 void *__wrap_realloc(void *memory, std::size_t size) {
-    return fails("realloc") ? nullptr : __real_realloc(memory, size);
+    if (fails("realloc") || size > 1 << 30)
+        return nullptr;
+    return endless && memory ? memory : __real_realloc(memory, size); // nothing is written there
 }
 }
 
@@ -86,7 +96,7 @@ TEST(Faults, AreSaidOnceAndCostOneTree) {
         fail("", 0, 0);
         ASSERT_EQ(init(), (outcome{true, true, {}}));
         const std::map<std::string, int> needed = calls;
-        ASSERT_EQ(needed.size(), 4u);
+        ASSERT_EQ(needed.size(), 5u);
         for (const auto &[function, count] : needed) {
             SCOPED_TRACE(function);
             for (int call = 1; call <= count; call += count > 100 ? 997 : 1) {
@@ -103,6 +113,24 @@ TEST(Faults, AreSaidOnceAndCostOneTree) {
         }
     }
     fail("", 0, 0);
+}
+
+TEST(Faults, AFileThatIsTooLargeIsRefusedUnreadAndOneThatGrowsAtTheLimit) {
+    const std::string paths[] = {"/var/main.conf", "/var/chassis_dst_sim.conf"};
+    const std::string said = ": larger than 536870912 bytes";
+    const auto expect_refusal = [&](off_t size) {
+        fail("", 0, 0);
+        for (const std::string &path : paths) {
+            std::ofstream{path};
+            ASSERT_EQ(truncate(path.c_str(), size), 0);
+        }
+        EXPECT_EQ(init(), (outcome{false, false, {paths[0] + said, paths[1] + said}}));
+    };
+    expect_refusal((512 << 20) + 1);
+    EXPECT_EQ(calls["read"], 0);
+    endless = true;
+    expect_refusal(1);
+    endless = false;
 }
 
 } // namespace

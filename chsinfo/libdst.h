@@ -1246,7 +1246,7 @@ typedef struct _voltsnr_info_s {
     uint32_t margin;       /**< Margin. Element MARGIN (decimal); key "MARGIN". */
     uint32_t def_voltage;  /**< Default voltage. Element DEF_VOLTAGE (decimal); key "DEF_VOLTAGE". */
     /** Conversion factor. Element CONVERSION_FACTOR (decimal integer, a fraction is dropped); key "CONVERSION_FACTOR",
-     * a floating-point number. */
+     * with its fraction. */
     double conversion_factor;
     uint32_t cfpga_id;    /**< FPGA id. Element CFPGAID (base prefix); key "CFPGAID". */
     uint32_t mux_addr;    /**< Multiplexer address. Element MUX_ADDR (base prefix); key "MUX_ADDR". */

@@ -121,7 +121,7 @@ TEST(Faults, AFileThatIsTooLargeIsRefusedUnreadAndOneThatGrowsAtTheLimit) {
     const auto expect_refusal = [&](off_t size) {
         fail("", 0, 0);
         for (const std::string &path : paths) {
-            std::ofstream{path};
+            std::ofstream(path).close();
             ASSERT_EQ(truncate(path.c_str(), size), 0);
         }
         EXPECT_EQ(init(), (outcome{false, false, {paths[0] + said, paths[1] + said}}));

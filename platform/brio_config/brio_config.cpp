@@ -10,7 +10,6 @@
 #include <initializer_list>
 #include <memory>
 
-#include <fcntl.h>
 #include <libconfig.h>
 #include <sys/stat.h>
 #include <syslog.h>
@@ -53,21 +52,6 @@ struct heap_free {
 };
 using heap_text = std::unique_ptr<char, heap_free>;
 
-class descriptor {
-  public:
-    explicit descriptor(int fd) : fd_(fd) {}
-    ~descriptor() {
-        if (fd_ >= 0)
-            close(fd_);
-    }
-    descriptor(const descriptor &) = delete;
-    descriptor &operator=(const descriptor &) = delete;
-    int get() const { return fd_; }
-
-  private:
-    int fd_;
-};
-
 constexpr std::size_t max_bytes{dst::max_tree_bytes};
 static_assert(max_bytes < INT_MAX, "libconfig's scanner counts in int");
 
@@ -109,18 +93,14 @@ heap_text read_all(int fd, std::size_t &size) {
 
 // A file that is not there is nothing to log.
 heap_text read_file(const char *path, std::size_t &size) {
-    int opened;
-    do
-        opened = open(path, dst::open_flags);
-    while (opened < 0 && errno == EINTR);
-    const descriptor file(opened);
-    if (opened < 0 && errno == ENOENT)
+    const dst::descriptor file(dst::open_for_reading(path));
+    if (file.get() < 0 && errno == ENOENT)
         return nullptr;
     heap_text text;
-    if (opened >= 0) {
+    if (file.get() >= 0) {
         errno = 0; // stays so for a file that is not plain
-        if (dst::is_plain_file(opened))
-            text = read_all(opened, size);
+        if (dst::is_plain_file(file.get()))
+            text = read_all(file.get(), size);
     }
     if (!text && errno == EFBIG)
         syslog(LOG_ERR, "%s: larger than %zu bytes", path, max_bytes);

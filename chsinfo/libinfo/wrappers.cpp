@@ -25,10 +25,15 @@ template <auto Slot, class... Args> static auto dispatch(Args... args) {
 
 } // namespace dst
 
+static void release_model() {
+    dst::dispatch<&chassis_ops_t::libc_chassis_epm_data_release>();
+    dst::dispatch<&chassis_ops_t::libc_release>();
+}
+
 int libchs_init(void) {
-    if (dst_chs_info)
-        libchs_release();
     chassis_ops = libc_get_priv_ops();
+    if (dst_chs_info) // also without a table: libc_release was not there when libchs_release() was called
+        release_model();
     if (chassis_ops->libc_init) {
         const int rc = chassis_ops->libc_init();
         if (rc < 0)
@@ -38,8 +43,7 @@ int libchs_init(void) {
 }
 
 void libchs_release(void) {
-    dst::dispatch<&chassis_ops_t::libc_chassis_epm_data_release>();
-    dst::dispatch<&chassis_ops_t::libc_release>();
+    release_model();
     chassis_ops = nullptr;
 }
 

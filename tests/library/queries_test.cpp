@@ -443,6 +443,23 @@ TEST_F(Queries, AnEmptySlotAnswersForItsOperation) {
     chassis_priv_ops = whole;
 }
 
+// The host puts the slot back, and counts what it does.
+int releases;
+TEST_F(Queries, InitReleasesWhatAReleaseWithoutTheSlotLeft) {
+    ASSERT_NO_FATAL_FAILURE(load_description(true));
+    static const auto release = chassis_priv_ops.libc_release;
+    chassis_priv_ops.libc_release = nullptr;
+    libchs_release();
+    releases = 0;
+    chassis_priv_ops.libc_release = [] {
+        ++releases;
+        release();
+    };
+    load_description(true);
+    chassis_priv_ops.libc_release = release;
+    EXPECT_EQ(releases, 1);
+}
+
 // What the walk finds, and what follows copies, unknown records and records that the walk leaves out.
 void expect_walk(const walk &row, const keys &expected) {
     take_log();

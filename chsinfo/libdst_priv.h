@@ -42,12 +42,13 @@ DST_API int libdst_init(void);
  * which nothing that the files contain leads to, is logged at LOG_CRIT and ends the process with status 1. */
 DST_API int libdst_config_init(void);
 
-/** Reads the trees that the configuration-tree library holds into `chs_info`, not linked, all or nothing. Returns 0, or
- * another value, logged. `nbuttons`, the LCDs and the EPM data of `chs_info` stay as they are. */
-DST_API int libconfig_root_handler(libdst_chs_info_t *chs_info);
+/** Reads the trees that the configuration-tree library holds into `model`, not linked, all or nothing. Returns 0, or
+ * another value, logged. `nbuttons`, the LCDs and the EPM data of `model` stay as they are. */
+DST_API int libconfig_root_handler(libdst_chs_info_t *model);
 
 /** @name Threshold readers
- * Callbacks of the configuration-tree library. A list reader fills, from an array, a list of the record that `data`
+ * Callbacks of the configuration-tree library. Their handles come from it: a program that calls them links it too,
+ * `-lbrio_config` beside `-ldst`. A list reader fills, from an array, a list of the record that `data`
  * points to, and returns success; memory that runs out ends the list. An element reader returns a new record, or null
  * when memory runs out. Records come from calloc(): a model's are freed with it, all others one by one by the caller.
  * @{ */
@@ -78,9 +79,9 @@ DST_API void libxml_shutdown(void);
 /** Frees everything that `chs_info` owns and zeroes it. Harmless on an empty model. */
 DST_API void libdst_release(void);
 
-/** Turns the ids that the records of `chs_info` carry into pointers. Returns 0; or -1, logged, at the first device
- * whose FRU, or FRU whose I2C device or parent, does not exist (a PIC without its FRU is logged only). */
-DST_API int libdst_dev_transform_handler(libdst_chs_info_t *chs_info);
+/** Turns the ids that the records of `model` carry into pointers. Returns 0; or -1, logged, at the first device whose
+ * FRU, or FRU whose I2C device or parent, does not exist (a PIC without its FRU is logged only). */
+DST_API int libdst_dev_transform_handler(libdst_chs_info_t *model);
 
 #ifdef __cplusplus
 }

@@ -25,6 +25,7 @@
  *     the whole name of a controller of that kind of device (for fan trays, in the configuration-tree form, its
  *     beginning); with another one the XML form is refused, while the configuration-tree form loses the device, and
  *     for some kinds those after it.
+ *   - Lists: a list says by which link its entries follow. TAILQ_FOREACH(entry, &list, link) of <sys/queue.h> walks it.
  *   - Texts are NUL-terminated; longer ones are cut to fit.
  *   - Ids are expected to be unique in their list, but nothing enforces it: where they repeat, the first record
  *     counts, unless said otherwise.
@@ -37,6 +38,16 @@
 #include <stdbool.h>
 #include <stdint.h>
 
+/** @name Version
+ * Of this header, as numbers and as one that compares: 1.2.3 is 10203. The version stands here alone; the build reads
+ * it from these lines for libdst.pc and the name of the library.
+ * @{ */
+#define DST_VERSION_MAJOR 1
+#define DST_VERSION_MINOR 0
+#define DST_VERSION_PATCH 0
+#define DST_VERSION (DST_VERSION_MAJOR * 10000 + DST_VERSION_MINOR * 100 + DST_VERSION_PATCH)
+/** @} */
+
 /** Marks what the library exports. */
 #if defined(__GNUC__)
 #define DST_API __attribute__((visibility("default")))
@@ -45,11 +56,13 @@
 #endif
 
 /** In C++ the underlying type of each enumeration is int, so that -1 (unknown text) is a value of it. In C the compiler
- * chooses, and may take an unsigned type: compare with -1, or convert to int; `< 0` may never hold. */
+ * chooses, and may take an unsigned type, where `< 0` never holds: compare as int, `(int)member == -1`. */
 #ifdef __cplusplus
 #define DST_ENUM_INT : int
+#define DST_INLINE inline
 #else
 #define DST_ENUM_INT
+#define DST_INLINE static inline
 #endif
 
 /** A list head: the first entry, null when the list is empty; and where the next entry goes, the last entry's
@@ -73,6 +86,15 @@ extern "C" {
  * A table holds the text of each enumerator, indexed by its value; the last row stands at the _MAX value, which is
  * never stored. A row may hold the empty text, which only an empty text matches, or null, which nothing matches. The
  * tables are constant. */
+
+/** The text of a table below for a member, which may be -1: DST_NAME(dst_fru_type, fru->fru_type). The empty text for a
+ * row that holds null, and outside the table. Evaluates `index` once. */
+#define DST_NAME(table, index) dst_name_of(table, sizeof(table) / sizeof *(table), index)
+
+/** DST_NAME() of a table with so many rows. */
+DST_INLINE const char *dst_name_of(const char *const *table, int64_t rows, int64_t index) {
+    return index >= 0 && index < rows && table[index] ? table[index] : "";
+}
 
 /** Kind of an I2C device. */
 typedef enum _i2cdev_type_s DST_ENUM_INT {
@@ -566,8 +588,8 @@ typedef struct _sim_tmpsnr_threshold_s {
     uint32_t id;                                    /**< Threshold id. Key "id". */
     uint32_t fire;                                  /**< Fire temperature. Key "SIM_FIRE". */
     fru_aflow_type_t aflow_type;                    /**< Air flow it applies to. Key "Type", a number. */
-    sim_alarm_list_t alarm_list;                    /**< Alarms. Key "SIM_ALARM". */
-    sim_limit_list_t limit_list;                    /**< Fan-step limits. Key "SIM_LIMIT". */
+    sim_alarm_list_t alarm_list;                    /**< Alarms, by `alarm_next`. Key "SIM_ALARM". */
+    sim_limit_list_t limit_list;                    /**< Fan-step limits, by `limit_next`. Key "SIM_LIMIT". */
     sim_tmpsnr_threshold_next_t sim_threshold_next; /**< Link. */
 } sim_tmpsnr_threshold_t;
 
@@ -592,8 +614,8 @@ typedef struct _sim_fru_data_s {
     uint32_t input_current;                /**< Input current. Key "INPUT_CURRENT". */
     uint32_t output_current;               /**< Output current. Key "OUTPUT_CURRENT". */
     uint32_t fan_af_type;                  /**< Air flow, the number of a fru_aflow_type_t. Key "FAN_AF_TYPE". */
-    sim_ss2rpm_fan_info_list_t sim_ss2rpm; /**< Fan speed table. Key "SIM_SS2RPM". */
-    sim_threshold_list_t sim_ts_threshold; /**< Temperature thresholds. Key "SIM_THRESHOLD". */
+    sim_ss2rpm_fan_info_list_t sim_ss2rpm; /**< Fan speed table, by `sim_ss2rpm_info_next`. Key "SIM_SS2RPM". */
+    sim_threshold_list_t sim_ts_threshold; /**< Temperature thresholds, by `sim_threshold_next`. Key "SIM_THRESHOLD". */
     sim_fru_data_next_t sim_fru_data_next; /**< Link. */
 } sim_fru_data_t;
 
@@ -630,8 +652,9 @@ typedef struct _fru_info_s {
     uint32_t hyst_offset; /**< Hysteresis offset. Element HYST_OFFSET (decimal); key "HYST_OFFSET". */
     /** Maximum number of alarm reasons. Element MAX_ALARM_REASONS (decimal); key "MAX_ALARM_REASONS". */
     uint32_t max_alarm_reasons;
-    sim_assembly_id_t *virtual_i2c_data;  /**< Simulated EEPROM or null. Owned. No element; key "SIM_ASSEMBLY_DATA". */
-    sim_fru_data_list_t virtual_fru_data; /**< Simulated readings. No element; key "SIM_FRU_DATA". */
+    sim_assembly_id_t *virtual_i2c_data; /**< Simulated EEPROM or null. Owned. No element; key "SIM_ASSEMBLY_DATA". */
+    /** Simulated readings, by `sim_fru_data_next`. No element; key "SIM_FRU_DATA". */
+    sim_fru_data_list_t virtual_fru_data;
 } fru_info_t;
 
 /** The link of fru_module_list_t. */
@@ -692,9 +715,10 @@ typedef struct _fru_model_info_s {
     fru_aflow_type_t aflow_type; /**< Air flow. Element AIRFLOWTYPE (name); key "AIRFLOWTYPE", -1 for "UNKNOWN". */
     fru_power_type_t power_type; /**< AC or DC. Element PEMTYPE (name); key "PEMTYPE". */
     char fru_desc[128];          /**< FRU description. Element FRUDESC; key "FRUDESC". */
-    ambient_temp_list_t ambient_temp_info; /**< Ambient-temperature table. No element; key "AMBIENT_TEMP_DATA". */
-    int32_t power_rating;                  /**< Power rating. Element POWER_RATING (decimal); key "POWER_RATING". */
-    int32_t peak_power;                    /**< Peak power. Element PEAK_POWER (decimal); key "PEAK_POWER". */
+    /** Ambient-temperature table, by `ambient_temp_next`. No element; key "AMBIENT_TEMP_DATA". */
+    ambient_temp_list_t ambient_temp_info;
+    int32_t power_rating; /**< Power rating. Element POWER_RATING (decimal); key "POWER_RATING". */
+    int32_t peak_power;   /**< Peak power. Element PEAK_POWER (decimal); key "PEAK_POWER". */
     /** The power supply's input switch is active. Element PEM_INPSW_ACT (true, false); key "PEM_INPSW_ACT", text. */
     bool pem_inpsw_act;
     /** Environment-monitoring policy applies per FRU. Element FRUEMP (true, false); key "FRUEMP", text. */
@@ -756,14 +780,16 @@ typedef struct _ss2rpm_fan_info_list_s {
 
 /* ---- Fan trays ---- */
 
-/** A fan tray: "FAN". It begins a fan module record, whose type `ctrl_type` tells:
- *
- *    CTRL_TYPE_ADT7470    adt7470_module_info_t
- *    CTRL_TYPE_FANSYSPLD  pelian_fan_syspld_module_info_t
- *    CTRL_TYPE_GFC0812    gfc0812_module_info_t
- *    CTRL_TYPE_9HV0812    haskel_9hv0812_module_info_t
- *
- * Owned by the model; valid until libchs_release(). */
+/** The fan modules: ROW(controller, module record, its fans' record) for each. A module's list `fan_info` is by
+ * `fan_info_next`. */
+#define DST_FAN_MODULES(ROW)                                                                                           \
+    ROW(CTRL_TYPE_ADT7470, adt7470_module_info_t, adt7470_fan_info_t)                                                  \
+    ROW(CTRL_TYPE_FANSYSPLD, pelian_fan_syspld_module_info_t, pelian_fan_syspld_info_t)                                \
+    ROW(CTRL_TYPE_GFC0812, gfc0812_module_info_t, gfc0812_fan_info_t)                                                  \
+    ROW(CTRL_TYPE_9HV0812, haskel_9hv0812_module_info_t, haskel_9hv0812_fan_info_t)
+
+/** A fan tray: "FAN". It begins the fan module record that DST_FAN_MODULES has for its `ctrl_type`: a pointer to the
+ * one is a pointer to the other. Owned by the model; valid until libchs_release(). */
 typedef struct _fan_info_s {
     i2c_dev_info_t *i2cdev; /**< I2C device. No source fills it. Reference, not owned. */
     char name[128];         /**< Name. Element NAME; key "NAME". */
@@ -790,7 +816,7 @@ typedef struct _adt7470_fan_info_s {
     /** PWM duty-cycle register. Element PWM_DUTY_CYCLE_REG (base prefix); key "PWM_DUTY_CYCLE_REG". */
     uint32_t pwm_duty_cycle_reg;
     uint32_t speed_reg;                    /**< Speed register. No element; key "SPEED_REG". */
-    ss2rpm_fan_info_list_t ss2rpm;         /**< Speed table. Elements SS2RPM; key "SS2RPM". */
+    ss2rpm_fan_info_list_t ss2rpm;         /**< Speed table, by `ss2rpm_info_next`. Elements SS2RPM; key "SS2RPM". */
     adt7470_fan_info_next_t fan_info_next; /**< Link. */
 } adt7470_fan_info_t;
 
@@ -803,7 +829,7 @@ typedef struct _adt7470_fan_info_list_s {
 typedef struct _adt7470_module_info_s {
     fan_info_t fan_tray_info; /**< The tray; its address is the module's. */
     uint8_t nfans;            /**< Number of fans. As stated by element NFANS (decimal); counted with key "FAN". */
-    adt7470_fan_info_list_t fan_info; /**< The fans. Elements FAN; key "FAN". */
+    adt7470_fan_info_list_t fan_info; /**< The fans, by `fan_info_next`. Elements FAN; key "FAN". */
 } adt7470_module_info_t;
 
 /** The link of gfc0812_fan_info_t. */
@@ -822,7 +848,7 @@ typedef struct _gfc0812_fan_info_s {
     uint32_t pwm_duty_cycle_reg;
     /** Fan-select register. Element FAN_SELECT_REG (base prefix); key "FAN_SELECT_REG". */
     uint32_t ec_i2cs_fan_select;
-    ss2rpm_fan_info_list_t ss2rpm;         /**< Speed table. Elements SS2RPM; key "SS2RPM". */
+    ss2rpm_fan_info_list_t ss2rpm;         /**< Speed table, by `ss2rpm_info_next`. Elements SS2RPM; key "SS2RPM". */
     gfc0812_fan_info_next_t fan_info_next; /**< Link. */
 } gfc0812_fan_info_t;
 
@@ -835,7 +861,7 @@ typedef struct _gfc0812_fan_info_list_s {
 typedef struct _gfc0812_module_info_s {
     fan_info_t fan_tray_info; /**< The tray; its address is the module's. */
     uint8_t nfans;            /**< Number of fans. As stated by element NFANS (decimal); counted with key "FAN". */
-    gfc0812_fan_info_list_t fan_info; /**< The fans. Elements FAN; key "FAN". */
+    gfc0812_fan_info_list_t fan_info; /**< The fans, by `fan_info_next`. Elements FAN; key "FAN". */
 } gfc0812_module_info_t;
 
 /** The link of haskel_9hv0812_fan_info_t. */
@@ -854,7 +880,7 @@ typedef struct _haskel_9hv0812_fan_info_s {
     uint32_t pwm_duty_cycle_reg;
     /** Fan-select register. Element FAN_SELECT_REG (base prefix); key "FAN_SELECT_REG". */
     uint32_t ec_i2cs_fan_select;
-    ss2rpm_fan_info_list_t ss2rpm;                /**< Speed table. Elements SS2RPM; key "SS2RPM". */
+    ss2rpm_fan_info_list_t ss2rpm; /**< Speed table, by `ss2rpm_info_next`. Elements SS2RPM; key "SS2RPM". */
     haskel_9hv0812_fan_info_next_t fan_info_next; /**< Link. */
 } haskel_9hv0812_fan_info_t;
 
@@ -867,7 +893,7 @@ typedef struct _haskel_9hv0812_fan_info_list_s {
 typedef struct _haskel_9hv0812_module_info_s {
     fan_info_t fan_tray_info; /**< The tray; its address is the module's. */
     uint8_t nfans;            /**< Number of fans. As stated by element NFANS (decimal); counted with key "FAN". */
-    haskel_9hv0812_fan_info_list_t fan_info; /**< The fans. Elements FAN; key "FAN". */
+    haskel_9hv0812_fan_info_list_t fan_info; /**< The fans, by `fan_info_next`. Elements FAN; key "FAN". */
 } haskel_9hv0812_module_info_t;
 
 /** The link of pelian_fan_syspld_info_t. */
@@ -900,7 +926,7 @@ typedef struct _pelian_fan_syspld_info_list_s {
 typedef struct _pelian_fan_syspld_module_info_s {
     fan_info_t fan_tray_info; /**< The tray; its address is the module's. */
     uint8_t nfans;            /**< Number of fans. As stated by element NFANS (decimal); not counted with key "FAN". */
-    pelian_fan_syspld_info_list_t fan_info; /**< The fans. Elements FAN; key "FAN". */
+    pelian_fan_syspld_info_list_t fan_info; /**< The fans, by `fan_info_next`. Elements FAN; key "FAN". */
 } pelian_fan_syspld_module_info_t;
 
 /** List of fans whose type is not looked at: the entries are opaque. */
@@ -943,7 +969,7 @@ typedef struct _pem_info_s {
     ctrl_type_t ctrl_type;         /**< CTRL_TYPE_PSUEPM. Attribute "ctrl"; key "ctrl". */
     fru_info_t *fru_info;          /**< FRU that holds it. Set by linking. Reference, not owned. */
     uint8_t slot;                  /**< Slot number. No source fills it. */
-    ss2rpm_fan_info_list_t ss2rpm; /**< Fan speed table. No element; key "SS2RPM". */
+    ss2rpm_fan_info_list_t ss2rpm; /**< Fan speed table, by `ss2rpm_info_next`. No element; key "SS2RPM". */
 } pem_info_t;
 
 /** The link of pem_module_list_t. */
@@ -1188,8 +1214,8 @@ typedef struct _tmpsnr_threshold_s {
     uint32_t id;                            /**< Threshold id. Attribute "id" (decimal); key "id". */
     uint32_t fire;                          /**< Fire value. Element FIRE (decimal); key "FIRE". */
     fru_aflow_type_t aflow_type;            /**< Air flow. Attribute "type" (name); key "Type", a number. */
-    alarm_list_t alarm_list;                /**< Alarms. Elements ALARM; key "ALARM". */
-    limit_list_t limit_list;                /**< Fan-step limits. Elements LIMIT; key "LIMIT". */
+    alarm_list_t alarm_list;                /**< Alarms, by `alarm_next`. Elements ALARM; key "ALARM". */
+    limit_list_t limit_list;                /**< Fan-step limits, by `limit_next`. Elements LIMIT; key "LIMIT". */
     tmpsnr_threshold_next_t threshold_next; /**< Link. */
 } tmpsnr_threshold_t;
 
@@ -1211,7 +1237,7 @@ typedef struct _tmpsnr_info_s {
     uint8_t tmp_index;     /**< Temperature index. Element TMP_INDEX (base prefix); no key. */
     char fru_type[128];    /**< Kind of FRU, free text. Element FRUTYPE; no key. */
     uint8_t mux;           /**< Multiplexer. Element MUX (base prefix); no key. */
-    threshold_list_t threshold_list; /**< Thresholds. Elements THRESHOLD; key "THRESHOLD". */
+    threshold_list_t threshold_list; /**< Thresholds, by `threshold_next`. Elements THRESHOLD; key "THRESHOLD". */
 } tmpsnr_info_t;
 
 /** The link of tmpsnr_module_list_t. */
@@ -1432,7 +1458,7 @@ typedef struct _bcm_chip_info_s {
     uint32_t system_predriver;  /**< System pre-driver setting. Element SYSTEMPREDRIVER (decimal). */
     uint32_t led_program;       /**< LED program. Element LEDPROGRAM (decimal). */
     uint32_t led_program_len;   /**< Length of the LED program. Element LEDPROGRAMLEN (decimal). */
-    port_info_list_t port_info; /**< Ports. Elements PORT. */
+    port_info_list_t port_info; /**< Ports, by `port_info_next`. Elements PORT. */
 } bcm_chip_info_t;
 
 /** A switching ASIC: element ASIC. Owned by the model; valid until libchs_release(). */
@@ -1623,7 +1649,7 @@ typedef struct _resil_module_next_s {
 /** Entry of a FRU model's list of modules: key "MODULE". Owned by its resil_fru_list_t. */
 typedef struct _resil_module_list_s {
     resil_module_info_t resil_minfo;       /**< The module. */
-    resil_error_info_list_t resil_errors;  /**< Its error sources. Key "ERRORS". */
+    resil_error_info_list_t resil_errors;  /**< Its error sources, by `resil_error_next`. Key "ERRORS". */
     resil_module_next_t resil_module_next; /**< Link. */
 } resil_module_list_t;
 
@@ -1647,7 +1673,7 @@ typedef struct _resil_fru_next_s {
 /** Entry of the resiliency list. Owned by the model; valid until libchs_release(). */
 typedef struct _resil_fru_list_s {
     resil_fru_info_t resil_finfo;          /**< The FRU model. */
-    resil_fru_module_list_t resil_modules; /**< Its modules. Key "MODULE". */
+    resil_fru_module_list_t resil_modules; /**< Its modules, by `resil_module_next`. Key "MODULE". */
     resil_fru_next_t resil_fru_next;       /**< Link. */
 } resil_fru_list_t;
 
@@ -1661,34 +1687,34 @@ typedef struct _resil_list_s {
 /** The chassis block, with the I2C devices beside it. Embedded in libdst_chs_info_t. */
 typedef struct _libdst_chs_cinfo_s {
     chassis_info_t chs_info;             /**< The chassis-wide numbers. */
-    i2cdev_info_list_t i2cdev_info_list; /**< I2C devices. */
+    i2cdev_info_list_t i2cdev_info_list; /**< I2C devices, by `i2cdev_info_next`. */
 } libdst_chs_cinfo_t;
 
 /** The model: the one description of the chassis. Each list keeps the order of its source. A pointer to it is a pointer
  * to its chassis_info_t. */
 typedef struct _libdst_chs_info_s {
     libdst_chs_cinfo_t chs_cinfo;       /**< The chassis block and the I2C devices. */
-    fan_info_list_t fan_info;           /**< Fan trays. */
-    pem_info_list_t pem_info;           /**< Power supplies. */
-    fpc_info_list_t fpc_info;           /**< FPC boards. */
-    sib_info_list_t sib_info;           /**< SIB boards. */
-    fpm_info_list_t fpm_info;           /**< FPM boards. */
-    ftc_info_list_t ftc_info;           /**< FTC boards. */
-    cb_info_list_t cb_info;             /**< CB boards. */
-    tmpsnr_info_list_t ts_info;         /**< Temperature sensors. */
-    voltsnr_info_list_t vs_info;        /**< Voltage sensors. */
-    ledlcd_info_list_t ll_info;         /**< LEDs. */
-    lcd_info_list_t lcd_info;           /**< LCDs. XML form only. */
-    button_info_list_t btn_info;        /**< Buttons. */
-    pic_info_list_t pic_info;           /**< PICs. */
-    fru_info_list_t fru_info;           /**< FRUs. */
-    asic_info_list_t asic_info;         /**< Switching ASICs. XML form only. */
-    optics_info_list_t optics_info;     /**< Optical ports. XML form only. */
-    frumodel_info_list_t frumodel_info; /**< FRU models. */
-    frumodel_info_list_t chsmodel_info; /**< Chassis models. */
-    cepm_data_list_t cepm_info;         /**< EPM records, from the host. */
-    resil_list_t resil_info;            /**< Resiliency data. Configuration-tree form only. */
-    tib_info_list_t tib_info;           /**< TIB boards. Configuration-tree form only. */
+    fan_info_list_t fan_info;           /**< Fan trays, by `fan_next`. */
+    pem_info_list_t pem_info;           /**< Power supplies, by `pem_next`. */
+    fpc_info_list_t fpc_info;           /**< FPC boards, by `fpc_next`. */
+    sib_info_list_t sib_info;           /**< SIB boards, by `sib_next`. */
+    fpm_info_list_t fpm_info;           /**< FPM boards, by `fpm_next`. */
+    ftc_info_list_t ftc_info;           /**< FTC boards, by `ftc_next`. */
+    cb_info_list_t cb_info;             /**< CB boards, by `cb_next`. */
+    tmpsnr_info_list_t ts_info;         /**< Temperature sensors, by `ts_next`. */
+    voltsnr_info_list_t vs_info;        /**< Voltage sensors, by `vs_next`. */
+    ledlcd_info_list_t ll_info;         /**< LEDs, by `ll_next`. */
+    lcd_info_list_t lcd_info;           /**< LCDs, by `lcd_next`. XML form only. */
+    button_info_list_t btn_info;        /**< Buttons, by `btn_next`. */
+    pic_info_list_t pic_info;           /**< PICs, by `pic_next`. */
+    fru_info_list_t fru_info;           /**< FRUs, by `fru_next`. */
+    asic_info_list_t asic_info;         /**< Switching ASICs, by `asic_next`. XML form only. */
+    optics_info_list_t optics_info;     /**< Optical ports, by `optics_next`. XML form only. */
+    frumodel_info_list_t frumodel_info; /**< FRU models, by `frumodel_next`. */
+    frumodel_info_list_t chsmodel_info; /**< Chassis models, by `frumodel_next`. */
+    cepm_data_list_t cepm_info;         /**< EPM records from the host, by `cepm_next`. */
+    resil_list_t resil_info;            /**< Resiliency data, by `resil_fru_next`. Configuration-tree form only. */
+    tib_info_list_t tib_info;           /**< TIB boards, by `tib_next`. Configuration-tree form only. */
 } libdst_chs_info_t;
 
 /** The one model. All zero before libchs_init(), after a failed read and after libchs_release(). Callers only read. */
@@ -1699,7 +1725,9 @@ extern DST_API libdst_chs_info_t chs_info;
 extern DST_API libdst_chs_info_t *dst_chs_info;
 
 /** The host's access to identification EEPROMs. Either function may be null; both run on the thread that calls
- * libchs_init() or libchs_chassis_epm_data_init(). */
+ * libchs_init() or libchs_chassis_epm_data_init(), once the model is loaded: they may ask every query, and find the EPM
+ * records of the boards before. They may not call libchs_init(), libchs_release() or libchs_chassis_epm_data_init(),
+ * and must return: no exception, no longjmp(). */
 typedef struct _epm_data_init_ops_s {
     /** Whether that board's EEPROM is present. Null: none is. */
     bool (*libchs_epm_data_present_by_type)(cepm_type_t cepm_type);
@@ -1860,7 +1888,11 @@ DST_API fru_model_info_t *libdst_fru_model_info_get_next_by_type(const fru_model
 /** Chassis models. By id. "empty chassis model list!". */
 DST_API fru_model_info_t *libdst_chassis_model_info_get_next(const fru_model_info_t *fminfo);
 
-/* ---- FRUs and what sits on them ---- */
+/* ---- FRUs and what sits on them ----
+ *
+ * Nothing enforces a tree: parents are found by id. Where ids repeat, a FRU may be among its own children and have
+ * children whose `parent` is another record; a FRU may be above itself; and levels may be as many as FRUs. So a walk
+ * down takes only children whose `parent` is the very record, and it, like a walk up, stops after so many levels. */
 
 /** FRUs. By id. "empty fru list!". */
 DST_API fru_info_t *libchs_fru_info_get_next(fru_info_t *fru_info);

@@ -1,6 +1,6 @@
 // Fan trays: "DEVICES" groups of "Type" "FAN", with "FAN" groups and their "SS2RPM" rows inside.
 // A new key: its member in libdst.h, its line here and in the dump, a case. A new controller: its enumerator and name
-// row, its records in libdst.h, their rows and its case of with_module() in records.h, its fans' readers and its row
+// row, its records and its row of DST_FAN_MODULES in libdst.h, their rows in records.h, its fans' readers and its row
 // here, a case.
 #include "devices.h"
 

@@ -29,7 +29,8 @@ class Ranges : public testing::TestWithParam<form> {
 template <class Range>
 concept cheap_view = std::ranges::forward_range<Range> && std::ranges::common_range<Range> &&
     std::ranges::view<Range> && std::ranges::borrowed_range<Range>;
-static_assert(cheap_view<decltype(dst::fpcs())> && cheap_view<decltype(dst::ports_of_asic(0))>);
+static_assert(cheap_view<decltype(dst::fpcs())> && cheap_view<decltype(dst::ports_of_asic(0))> &&
+              cheap_view<decltype(dst::thresholds(tmpsnr_info_t()))>);
 
 // The records of a range, and those of the walk that it stands for.
 struct found {
@@ -105,7 +106,7 @@ std::vector<found> every_range(form source) {
     visit(dst::pic_frus(), libchs_fru_info_get_next_by_pic);
     visit(dst::top_level_frus(), libchs_fru_info_get_next_parent);
     visit(dst::tib_frus(), libchs_fru_info_get_next_by_tib);
-    fru_info_t &chassis = *dst::top_level_frus().begin();
+    fru_info_t &chassis = dst::top_level_frus().front();
     visit(dst::children(chassis), [&](fru_info_t *at) { return libchs_fru_info_get_next_child(&chassis, at); });
 
     const auto on_fru = [&](auto all, auto range_of, auto query) {
@@ -148,6 +149,7 @@ TEST_P(Ranges, GoWithTheAlgorithms) {
     EXPECT_EQ(at++, fpc_3);
     EXPECT_STREQ(at->name, "FPC 4");
     EXPECT_EQ(decltype(at)(), dst::fpcs().end());
+    EXPECT_TRUE(dst::fpcs() && !dst::fpcs().empty() && !dst::tib_frus() && dst::tib_frus().empty());
 }
 
 // Run under helgrind by scripts/test.

@@ -52,14 +52,11 @@ template <class Module> Module *module_of(fan_info_t *tray) { return reinterpret
 // visit(module) for that record; visit(tray) where the controller begins none.
 auto with_module(fan_info_t *tray, auto visit) {
     switch (tray->ctrl_type) {
-    case CTRL_TYPE_ADT7470:
-        return visit(module_of<adt7470_module_info_t>(tray));
-    case CTRL_TYPE_FANSYSPLD:
-        return visit(module_of<pelian_fan_syspld_module_info_t>(tray));
-    case CTRL_TYPE_GFC0812:
-        return visit(module_of<gfc0812_module_info_t>(tray));
-    case CTRL_TYPE_9HV0812:
-        return visit(module_of<haskel_9hv0812_module_info_t>(tray));
+#define DST_MODULE(controller, module, fan)                                                                            \
+    case controller:                                                                                                   \
+        return visit(module_of<module>(tray));
+        DST_FAN_MODULES(DST_MODULE)
+#undef DST_MODULE
     default:
         return visit(tray);
     }

@@ -1,8 +1,8 @@
 // Fan trays, single devices: DEVICE type "FAN" with one of four controllers, FAN records with SS2RPM records inside.
 // A new element: its member in libdst.h, its row here, in the dump and in the schema, a case. A new controller: its
-// enumerator and name row, its name in the schema, its records in libdst.h, their rows and its case of with_module() in
-// records.h, its fans' leaves in the dump, its table of the fans' elements and its CTRL row here, its case in the
-// tray's FAN handler, a case.
+// enumerator and name row, its name in the schema, its records and its row of DST_FAN_MODULES in libdst.h, their
+// rows in records.h, its fans' leaves in the dump, its table of the fans' elements and its CTRL row here, its case in
+// the tray's FAN handler, a case.
 #include "patterns.h"
 #include "readers.h"
 

@@ -23,20 +23,32 @@ for file in lib/libdst.so.1 lib/libdst.so lib/libbrio_config.so.0 lib/pkgconfig/
 done
 
 export PKG_CONFIG_PATH=$prefix/lib/pkgconfig LD_LIBRARY_PATH=$prefix/lib:$library_path
-warnings=(-Wall -Wextra -Wpedantic -Werror)
-read -ra library < <(pkg-config --cflags --libs libdst)
+warnings=(-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Werror)
+read -ra includes < <(pkg-config --cflags libdst)
+read -ra library < <(pkg-config --libs libdst)
 library+=("-Wl,--allow-shlib-undefined")
-gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/client" "$source_dir/tests/install/client.c" "${library[@]}"
-gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/queries" "$source_dir/tests/install/queries.c" "${library[@]}"
-gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/inventory_c" "$documents/inventory.c" "${library[@]}"
-g++ "$@" -std=c++20 "${warnings[@]}" -o "$scratch/inventory_cpp" "$documents/inventory.cpp" "${library[@]}"
+width=("$@")
+# builds CLIENT SOURCE: with gcc, after clang has found nothing to warn of
+builds() {
+    local gcc=gcc clang=clang flags=("${width[@]}" "${warnings[@]}" "${includes[@]}")
+    case $2 in
+    *.c) flags+=(-std=c11) ;;
+    *.cpp) flags+=(-std=c++20) gcc=g++ clang=clang++ ;;
+    esac
+    $clang "${flags[@]}" -fsyntax-only "$2"
+    $gcc "${flags[@]}" -o "$scratch/$1" "$2" "${library[@]}"
+}
 # readme LANGUAGE: its example
 readme() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$source_dir/README.md"; }
 readme c >"$scratch/readme.c"
-gcc "$@" -std=c11 "${warnings[@]}" -o "$scratch/readme_c" "$scratch/readme.c" "${library[@]}"
-readme cpp >"$scratch/readme.cpp"
-[ -s "$scratch/readme.cpp" ] || fail "no example in C++ in the README"
-g++ "$@" -std=c++20 "${warnings[@]}" -c -o "$scratch/readme.o" "$scratch/readme.cpp" "${library[@]}"
+{ readme cpp; echo 'int main() { print_fans(); }'; } >"$scratch/readme.cpp"
+builds client "$source_dir/tests/install/client.c"
+builds queries "$source_dir/tests/install/queries.c"
+builds inventory_c "$documents/inventory.c"
+builds inventory_cpp "$documents/inventory.cpp"
+builds epm "$documents/epm.c"
+builds readme_c "$scratch/readme.c"
+builds readme_cpp "$scratch/readme.cpp"
 
 # run CLIENT EXAMPLE FORM, the form being xml or conf. The folder of the description is the client's own, in a mount namespace.
 run() {
@@ -57,6 +69,15 @@ diff "$source_dir/tests/install/client.expected" <(grep '^client: ' <<<"$client_
 prints queries modular xml queries.expected
 prints inventory_c fixed-1u xml inventory.expected
 prints inventory_cpp fixed-1u conf inventory.expected
+mkdir "$examples/loop" "$examples/epm" "$scratch/0-0051"
+cp "$source_dir/tests/install/loop.conf" "$examples/loop/chassis_dst.conf"
+prints inventory_c loop conf loop.expected
+prints inventory_cpp loop conf loop.expected
+# The main board's EEPROM; that of the CPU board is not there.
+cp "$examples/small/chassis_dst.xml" "$examples/epm"
+sed "s#/sys/bus/i2c/devices#$scratch#" "$examples/small/i2c.xml" >"$examples/epm/i2c.xml"
+{ printf '\177\260\002\377\013\134\001\002REV 01 of 12740-01234567AB1234'; head -c 79 /dev/zero; } >"$scratch/0-0051/eeprom"
+prints epm epm xml epm.expected
 for query in $(grep -oE '\blib(chs|dst)_[a-z0-9_]+,' "$source_dir/chsinfo/chassis_ops.def" | tr -d ,); do
     grep -q "$query(" "$source_dir/tests/install/queries.c" || fail "queries.c does not call $query()"
 done

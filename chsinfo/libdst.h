@@ -59,9 +59,14 @@
  * chooses, and may take an unsigned type, where `< 0` never holds: compare as int, `(int)member == -1`. */
 #ifdef __cplusplus
 #define DST_ENUM_INT : int
-#define DST_INLINE inline
 #else
 #define DST_ENUM_INT
+#endif
+
+/** Marks a function that this header defines: one in all of a C++ program, one a file in C. */
+#ifdef __cplusplus
+#define DST_INLINE inline
+#else
 #define DST_INLINE static inline
 #endif
 

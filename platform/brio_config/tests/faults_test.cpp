@@ -39,13 +39,13 @@ void fail(const char *function, int call, int with) {
 } // namespace
 
 extern "C" {
-int __real_open(const char *path, int flags, ...);
-int __wrap_open(const char *path, int flags, ...);
-int __wrap_open(const char *path, int flags, ...) {
+int __real_open64(const char *path, int flags, ...);
+int __wrap_open64(const char *path, int flags, ...);
+int __wrap_open64(const char *path, int flags, ...) {
     if (fails("open"))
         return -1;
     EXPECT_FALSE(flags & O_CREAT);
-    return __real_open(path, flags);
+    return __real_open64(path, flags);
 }
 
 int __real_fstat64(int fd, void *status);

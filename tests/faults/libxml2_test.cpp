@@ -1,8 +1,10 @@
 // Calls of libxml2 that fail, and a document that is another one when it is read: each gives its line, and the load
 // ends cleanly.
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
+#include <unistd.h>
 
 #include "../harness/load.h"
 #include "chsinfo/libdst.h"
@@ -12,7 +14,7 @@ int document_reads;
 
 namespace {
 
-enum class call { none, new_parser, new_validator, validate, first_read, second_read, exchanged };
+enum class call { none, new_parser, new_validator, validate, first_read, second_read, exchanged, read, interrupted };
 call failing = call::none;
 
 } // namespace
@@ -20,6 +22,7 @@ call failing = call::none;
 extern "C" {
 xmlSchemaParserCtxtPtr __real_xmlSchemaNewParserCtxt(const char *path);
 xmlSchemaValidCtxtPtr __real_xmlSchemaNewValidCtxt(xmlSchemaPtr schema);
+ssize_t __real_read(int fd, void *buffer, std::size_t size);
 int __real_xmlSchemaValidateDoc(xmlSchemaValidCtxtPtr validator, xmlDocPtr doc);
 xmlDocPtr __real_xmlReadFile(const char *path, const char *encoding, int options);
 
@@ -31,6 +34,14 @@ xmlSchemaValidCtxtPtr __wrap_xmlSchemaNewValidCtxt(xmlSchemaPtr schema) {
 }
 int __wrap_xmlSchemaValidateDoc(xmlSchemaValidCtxtPtr validator, xmlDocPtr doc) {
     return failing == call::validate ? -1 : __real_xmlSchemaValidateDoc(validator, doc);
+}
+ssize_t __wrap_read(int fd, void *buffer, std::size_t size) {
+    if (failing == call::read || failing == call::interrupted) {
+        errno = failing == call::read ? EIO : EINTR;
+        failing = call::none;
+        return -1;
+    }
+    return __real_read(fd, buffer, size);
 }
 xmlDocPtr __wrap_xmlReadFile(const char *path, const char *encoding, int options) {
     ++document_reads;
@@ -52,6 +63,7 @@ TEST(Libxml2, FailsCallByCall) {
         const char *out_ends;
     } cases[] = {
         {call::new_parser, {"libdst_xml_validation: Unable to parse schemas file", not_valid}, ""},
+        {call::read, {"libdst_xml_validation: Unable to parse schemas context", not_valid}, ""},
         {call::first_read,
          {"libdst_xml_validation: Failed in parsing Device Specification XML file /var/platform/chassis_dst.xml!\\n",
           not_valid},
@@ -79,7 +91,9 @@ TEST(Libxml2, FailsCallByCall) {
         EXPECT_TRUE(model_is_zero());
         libchs_release();
     }
+    failing = call::interrupted;
     EXPECT_EQ(load("<CHASSIS><VERSION>1</VERSION></CHASSIS>").status, 0);
+    EXPECT_EQ(failing, call::none);
     libchs_release();
 }
 

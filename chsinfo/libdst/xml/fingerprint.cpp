@@ -42,11 +42,11 @@ class fingerprint {
 };
 
 void add_attributes(fingerprint &print, const xmlNode *element) {
-    for (const xmlAttr *attribute = element->properties; attribute; attribute = attribute->next) {
-        print.add_name(attribute->name);
-        if (attribute->ns)
-            print.add_name(attribute->ns->href);
-        for (const xmlNode *part = attribute->children; part; part = part->next) {
+    for (const xmlAttr *one = element->properties; one; one = one->next) {
+        print.add_name(one->name);
+        if (one->ns)
+            print.add_name(one->ns->href);
+        for (const xmlNode *part = one->children; part; part = part->next) {
             print.add(part->type);
             print.add_text(part->type == XML_TEXT_NODE ? part->content : part->name);
         }
@@ -69,7 +69,7 @@ bool is_element(const xmlNode *node) { return node && node->type == XML_ELEMENT_
 void add_node(fingerprint &print, const xmlNode *node) {
     if (node->type == XML_TEXT_NODE && (is_element(node->next) || is_element(node->prev)))
         return;
-    print.add(static_cast<std::uint64_t>(node->type) << 2 | !!content_of(node) << 1 | !!node->next);
+    print.add(4U * node->type + (content_of(node) ? 2 : 0) + (node->next ? 1 : 0));
     switch (node->type) {
     case XML_ELEMENT_NODE:
         print.add_name(node->name);

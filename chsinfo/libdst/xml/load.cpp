@@ -50,9 +50,9 @@ static const char *file_of(const xmlNode *node) {
         ended += at->type == XML_XINCLUDE_END;
         if (at->type != XML_XINCLUDE_START || ended-- > 0)
             continue;
-        for (const xmlAttr *attribute = at->properties; attribute; attribute = attribute->next)
-            if (xmlStrEqual(attribute->name, BAD_CAST "href") && attribute->children)
-                return reinterpret_cast<const char *>(attribute->children->content);
+        for (const xmlAttr *one = at->properties; one; one = one->next)
+            if (xmlStrEqual(one->name, BAD_CAST "href") && one->children)
+                return reinterpret_cast<const char *>(one->children->content);
         ended = 0;
     }
     return reinterpret_cast<const char *>(node->doc->URL);

@@ -1,9 +1,9 @@
 // Standard output, standard error and the system log go nowhere; log lines are still formatted. What libFuzzer and the
 // sanitizers say still goes to the first standard error.
-#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 
+#include "../tests/harness/syslog_functions.h"
 #include "target.h"
 
 extern "C" {
@@ -12,13 +12,6 @@ void vsyslog(int, const char *format, va_list arguments) {
     char *line = nullptr;
     promise(vasprintf(&line, format, arguments) >= 0, "a log line can be formatted");
     std::free(line);
-}
-
-void syslog(int priority, const char *format, ...) {
-    va_list arguments;
-    va_start(arguments, format);
-    vsyslog(priority, format, arguments);
-    va_end(arguments);
 }
 
 int LLVMFuzzerInitialize(int *, char ***) {

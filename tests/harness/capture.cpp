@@ -1,6 +1,5 @@
 #include "capture.h"
 
-#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
@@ -8,6 +7,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
+
+#include "syslog_functions.h"
 
 static std::mutex mutex;
 static std::vector<log_line> captured;
@@ -24,13 +25,6 @@ void vsyslog(int priority, const char *format, va_list arguments) {
     std::free(text);
     const std::lock_guard lock(mutex);
     captured.push_back({priority, line});
-}
-
-void syslog(int priority, const char *format, ...) {
-    va_list arguments;
-    va_start(arguments, format);
-    vsyslog(priority, format, arguments);
-    va_end(arguments);
 }
 
 } // extern "C"

@@ -1,5 +1,6 @@
 // The root walk: the chassis-wide keys, the hand-over of everything read, and the simulation tree's merge.
 // A new chassis key: its member in libdst.h, its row here and in the dump, a case.
+#include "chsinfo/libdst/model/ids.h"
 #include "chsinfo/libdst/model/model.h"
 #include "readers.h"
 
@@ -106,8 +107,11 @@ static void hand_over(model_t &from, model_t &to) {
 
 // The simulated readings of each FRU of the simulation tree replace those of the first FRU with its id.
 static void merge_simulation(model_t &simulation, model_t &model) {
+    if (!simulation.fru_info.tqh_first)
+        return;
+    const ids_of<frus> by_id(&model);
     for (fru_info_t &simulated : records<frus>(&simulation)) {
-        fru_info_t *fru = first_of(records<frus>(&model), [&](const auto &one) { return one.id == simulated.id; });
+        fru_info_t *fru = by_id.first(simulated.id).record;
         if (!fru)
             continue;
         release_member(fru->virtual_fru_data);

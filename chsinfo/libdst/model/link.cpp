@@ -2,12 +2,7 @@
 // row in libdst_dev_transform_handler().
 #include "link.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-
 #include "chsinfo/libdst_priv.h"
-#include "kinds.h"
 #include "log.h"
 
 namespace dst {
@@ -15,44 +10,10 @@ namespace dst {
 constexpr uint32_t no_parent = 0xFFFFFFFF;
 constexpr int32_t no_i2c_device = -1;
 
-// The ids of a list side by side, for a pass that looks for many: the records themselves lie far apart in memory.
-// Without memory for it, each search goes through the records.
-template <class K> class ids_of {
-  public:
-    explicit ids_of(libdst_chs_info_t *model) : records_(records<K>(model)) {
-        std::size_t count = 1; // for an empty list, too, there is a block
-        for ([[maybe_unused]] const auto &one : records_)
-            ++count;
-        first_ = end_ = static_cast<entry *>(std::malloc(count * sizeof(entry)));
-        if (first_)
-            for (auto &one : records_)
-                *end_++ = {one.id, &one};
-    }
-    ~ids_of() { std::free(first_); }
-    ids_of(const ids_of &) = delete;
-    ids_of &operator=(const ids_of &) = delete;
-
-    // The first record with the id, or null.
-    typename K::record_t *find(uint32_t id) const {
-        if (!first_)
-            return first_of(records_, [id](const auto &one) { return one.id == id; });
-        const entry *found = std::find_if(first_, end_, [id](const entry &one) { return one.id == id; });
-        return found == end_ ? nullptr : found->record;
-    }
-
-  private:
-    struct entry {
-        uint32_t id;
-        typename K::record_t *record;
-    };
-    record_range<K> records_;
-    entry *first_;
-    entry *end_;
-};
-
 // `word` names the family in the messages, which end with `line_end`.
 template <class K>
-static int link_frus(const char *func, libdst_chs_info_t *model, const char *word, const char *line_end = "") {
+static int link_frus(const char *func, libdst_chs_info_t *model, const ids_of<frus> &by_id, const char *word,
+                     const char *line_end = "") {
     if (!K::list(model).tqh_first) {
         log_at(LOG_INFO, func, "%s info list is empty!%s", word, line_end);
         return 0;
@@ -61,9 +22,8 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const char *wor
         log_err(func, "fru info list is empty!%s", line_end);
         return -1;
     }
-    const ids_of<frus> by_id(model);
     for (auto &node : entries(K::list(model))) {
-        fru_info_t *fru = by_id.find(node.fru_id);
+        fru_info_t *fru = by_id.first(node.fru_id).record;
         if (!fru) {
             log_err(func, "Invalid fru info in %s info!%s", word, line_end);
             return -1;
@@ -74,47 +34,64 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const char *wor
 }
 
 // With an extension device wanted, a later device with the primary id replaces the link until both are found.
-static void link_i2c_devices(libdst_chs_info_t *model, const ids_of<i2c_devices> &by_id, fru_module_list_t &entry) {
+static void link_i2c_devices(const ids_of<i2c_devices> &by_id, fru_module_list_t &entry) {
     fru_info_t &fru = entry.fru_minfo;
     const auto primary = static_cast<uint32_t>(entry.i2cdev_id);
-    const auto extension = static_cast<uint32_t>(entry.i2cdev_id_ext);
-    if (entry.i2cdev_id_ext == no_i2c_device) {
-        fru.i2cdev_ext = nullptr;
-        fru.i2cdev = by_id.find(primary);
-        return;
+    if (entry.i2cdev_id_ext != no_i2c_device) {
+        const auto extension = by_id.first(static_cast<uint32_t>(entry.i2cdev_id_ext));
+        fru.i2cdev_ext = extension.record;
+        fru.i2cdev = by_id.last(primary, extension.position);
     }
-    for (i2c_dev_info_t &device : records<i2c_devices>(model)) {
-        if (device.id == primary)
-            fru.i2cdev = &device;
-        if (device.id == extension)
-            fru.i2cdev_ext = &device;
-        if (fru.i2cdev && fru.i2cdev_ext)
-            return;
-    }
+    if (!fru.i2cdev)
+        fru.i2cdev = by_id.first(primary).record;
 }
 
 } // namespace dst
 
-int libdst_dev_trans_fpc(libdst_chs_info_t *model) { return dst::link_frus<dst::fpcs>(__func__, model, "fpc"); }
-int libdst_dev_trans_sib(libdst_chs_info_t *model) { return dst::link_frus<dst::sibs>(__func__, model, "sib"); }
-int libdst_dev_trans_fpm(libdst_chs_info_t *model) { return dst::link_frus<dst::fpms>(__func__, model, "fpm"); }
-int libdst_dev_trans_ftc(libdst_chs_info_t *model) { return dst::link_frus<dst::ftcs>(__func__, model, "ftc"); }
-int libdst_dev_trans_cb(libdst_chs_info_t *model) { return dst::link_frus<dst::cbs>(__func__, model, "cb"); }
-int libdst_dev_trans_pem(libdst_chs_info_t *model) { return dst::link_frus<dst::pems>(__func__, model, "pem"); }
-int libdst_dev_trans_fan(libdst_chs_info_t *model) { return dst::link_frus<dst::fans>(__func__, model, "fan"); }
-int libdst_dev_trans_pic(libdst_chs_info_t *model) { return dst::link_frus<dst::pics>(__func__, model, "pic"); }
-int libdst_dev_trans_tib(libdst_chs_info_t *model) { return dst::link_frus<dst::tibs>(__func__, model, "tib", "\n"); }
-int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model) {
-    return dst::link_frus<dst::tmpsnrs>(__func__, model, "temperature sensor");
+int libdst_dev_trans_fpc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::fpcs>(__func__, model, frus, "fpc");
 }
-int libdst_dev_trans_voltsnr(libdst_chs_info_t *model) {
-    return dst::link_frus<dst::voltsnrs>(__func__, model, "voltage sensor");
+int libdst_dev_trans_sib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::sibs>(__func__, model, frus, "sib");
 }
-int libdst_dev_trans_led(libdst_chs_info_t *model) { return dst::link_frus<dst::leds>(__func__, model, "led"); }
-int libdst_dev_trans_lcd(libdst_chs_info_t *model) { return dst::link_frus<dst::lcds>(__func__, model, "lcd"); }
-int libdst_dev_trans_btn(libdst_chs_info_t *model) { return dst::link_frus<dst::btns>(__func__, model, "btn"); }
+int libdst_dev_trans_fpm(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::fpms>(__func__, model, frus, "fpm");
+}
+int libdst_dev_trans_ftc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::ftcs>(__func__, model, frus, "ftc");
+}
+int libdst_dev_trans_cb(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::cbs>(__func__, model, frus, "cb");
+}
+int libdst_dev_trans_pem(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::pems>(__func__, model, frus, "pem");
+}
+int libdst_dev_trans_fan(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::fans>(__func__, model, frus, "fan");
+}
+int libdst_dev_trans_pic(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::pics>(__func__, model, frus, "pic");
+}
+int libdst_dev_trans_tib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::tibs>(__func__, model, frus, "tib", "\n");
+}
+int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::tmpsnrs>(__func__, model, frus, "temperature sensor");
+}
+int libdst_dev_trans_voltsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::voltsnrs>(__func__, model, frus, "voltage sensor");
+}
+int libdst_dev_trans_led(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::leds>(__func__, model, frus, "led");
+}
+int libdst_dev_trans_lcd(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::lcds>(__func__, model, frus, "lcd");
+}
+int libdst_dev_trans_btn(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+    return dst::link_frus<dst::btns>(__func__, model, frus, "btn");
+}
 
-int libdst_dev_trans_fru(libdst_chs_info_t *model) {
+int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
     if (!model->fru_info.tqh_first) {
         dst::log_at(LOG_INFO, __func__, "fru info list is empty!");
         return 0;
@@ -125,21 +102,20 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model) {
     }
     const dst::ids_of<dst::i2c_devices> devices(model);
     for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
-        entry.fru_minfo.i2cdev = nullptr;
+        entry.fru_minfo.i2cdev = entry.fru_minfo.i2cdev_ext = nullptr;
         if (entry.i2cdev_id < 0)
             continue;
-        dst::link_i2c_devices(model, devices, entry);
+        dst::link_i2c_devices(devices, entry);
         if (!entry.fru_minfo.i2cdev) {
             dst::log_err(__func__, "Invalid i2c dev info in fru info!");
             return -1;
         }
     }
-    const dst::ids_of<dst::frus> frus(model);
     for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
         entry.fru_minfo.parent = nullptr;
         if (entry.parent_id == dst::no_parent)
             continue;
-        entry.fru_minfo.parent = frus.find(entry.parent_id);
+        entry.fru_minfo.parent = frus.first(entry.parent_id).record;
         if (!entry.fru_minfo.parent) {
             dst::log_err(__func__, "Invalid parent fru dev info!");
             return -1;
@@ -150,7 +126,7 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model) {
 
 int libdst_dev_transform_handler(libdst_chs_info_t *model) {
     static const struct {
-        int (*pass)(libdst_chs_info_t *model);
+        int (*pass)(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
         const char *failure;
         bool fatal;
     } passes[] = {
@@ -170,8 +146,9 @@ int libdst_dev_transform_handler(libdst_chs_info_t *model) {
         {libdst_dev_trans_btn, "Failed in setting the i2c dev ptr in btn info!\n", true},
         {libdst_dev_trans_fru, "Failed in setting the i2c dev ptr in fru info!\n", true},
     };
+    const dst::ids_of<dst::frus> frus(model);
     for (const auto &step : passes) {
-        const int rc = dst::check(__func__, step.pass(model), step.failure);
+        const int rc = dst::check(__func__, step.pass(model, frus), step.failure);
         if (rc < 0 && step.fatal)
             return rc;
     }

@@ -2,20 +2,20 @@
 // -1 (logged) at the first record whose FRU, I2C device or parent does not exist.
 #pragma once
 
-#include "chsinfo/libdst.h"
+#include "ids.h"
 
-int libdst_dev_trans_fpc(libdst_chs_info_t *model);
-int libdst_dev_trans_sib(libdst_chs_info_t *model);
-int libdst_dev_trans_fpm(libdst_chs_info_t *model);
-int libdst_dev_trans_ftc(libdst_chs_info_t *model);
-int libdst_dev_trans_cb(libdst_chs_info_t *model);
-int libdst_dev_trans_pem(libdst_chs_info_t *model);
-int libdst_dev_trans_fan(libdst_chs_info_t *model);
-int libdst_dev_trans_pic(libdst_chs_info_t *model);
-int libdst_dev_trans_tib(libdst_chs_info_t *model);
-int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model);
-int libdst_dev_trans_voltsnr(libdst_chs_info_t *model);
-int libdst_dev_trans_led(libdst_chs_info_t *model);
-int libdst_dev_trans_lcd(libdst_chs_info_t *model);
-int libdst_dev_trans_btn(libdst_chs_info_t *model);
-int libdst_dev_trans_fru(libdst_chs_info_t *model);
+int libdst_dev_trans_fpc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_sib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_fpm(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_ftc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_cb(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_pem(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_fan(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_pic(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_tib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_voltsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_led(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_lcd(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_btn(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);

@@ -52,8 +52,8 @@ ATTRIBUTES = {"i2cName": ("dst_i2c_type", "I2C_TYPE_ADT7470", "I2C_TYPE_LCD"),
               "alarmName": ("dst_tmpsnr_thres_alarm_type", "ALARM_TYPE_SYS_RED", "ALARM_TYPE_BADFAN_YELLOW")}
 # What each parser reads, as the schema's types. One name has one type in a place, so those that a temperature sensor
 # reads with 8 bits have the type of the voltage sensor's 32.
-PARSERS = {"int32": {"int32"}, "uint32": {"uint32"}, "uint8": {"uint8"}, "double": {"int32"}, "hex": {"hex"},
-           "hex16": {"hex16"}, "hex8": {"hex8"}, "string": {"text"}, "bool": {"boolean"}}
+PARSERS = {"int32": {"int32"}, "uint32": {"uint32"}, "uint8": {"uint8"}, "double": {"int32"}, "hex": {"upTo0x7FFFFFFF"},
+           "hex16": {"upTo0xFFFF"}, "hex8": {"upTo0xFF"}, "string": {"text"}, "bool": {"boolean"}}
 WIDER = {("CHASSIS/DEVICE", "REG_OFFSET"), ("CHASSIS/DEVICE", "CFPGAID")}
 
 

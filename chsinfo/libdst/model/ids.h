@@ -21,7 +21,7 @@ template <class K> class ids_of {
     };
 
     explicit ids_of(libdst_chs_info_t *model) : records_(records<K>(model)) {
-        std::size_t count = 0;
+        std::size_t count = 1; // for an empty list, too, there is a block
         for ([[maybe_unused]] const auto &one : records_)
             ++count;
         first_ = end_ = static_cast<entry *>(std::malloc(count * sizeof(entry)));

@@ -33,17 +33,19 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const ids_of<fr
     return 0;
 }
 
-// With an extension device wanted, a later device with the primary id replaces the link until both are found.
+// With an extension device wanted, of each id the last device counts up to where both have been met.
 static void link_i2c_devices(const ids_of<i2c_devices> &by_id, fru_module_list_t &entry) {
     fru_info_t &fru = entry.fru_minfo;
     const auto primary = static_cast<uint32_t>(entry.i2cdev_id);
-    if (entry.i2cdev_id_ext != no_i2c_device) {
-        const auto extension = by_id.first(static_cast<uint32_t>(entry.i2cdev_id_ext));
-        fru.i2cdev_ext = extension.record;
-        fru.i2cdev = by_id.last(primary, extension.position);
+    const auto extension = static_cast<uint32_t>(entry.i2cdev_id_ext);
+    const auto first = by_id.first(primary);
+    if (entry.i2cdev_id_ext == no_i2c_device) {
+        fru.i2cdev = first.record;
+        return;
     }
-    if (!fru.i2cdev)
-        fru.i2cdev = by_id.first(primary).record;
+    const uint32_t both_met = std::max(first.position, by_id.first(extension).position);
+    fru.i2cdev = by_id.last(primary, both_met);
+    fru.i2cdev_ext = by_id.last(extension, both_met);
 }
 
 } // namespace dst

@@ -2,7 +2,10 @@
 // row in libdst_dev_transform_handler().
 #include "link.h"
 
+#include <algorithm>
+
 #include "chsinfo/libdst_priv.h"
+#include "ids.h"
 #include "log.h"
 
 namespace dst {
@@ -10,10 +13,21 @@ namespace dst {
 constexpr uint32_t no_parent = 0xFFFFFFFF;
 constexpr int32_t no_i2c_device = -1;
 
+// The ids of the model's FRUs, sorted once for all passes that run while this stands.
+struct fru_index {
+    explicit fru_index(libdst_chs_info_t *model) : ids(model) { standing = &ids; }
+    ~fru_index() { standing = nullptr; }
+    fru_index(const fru_index &) = delete;
+    fru_index &operator=(const fru_index &) = delete;
+
+    const ids_of<frus> ids;
+    static const ids_of<frus> *standing;
+};
+const ids_of<frus> *fru_index::standing;
+
 // `word` names the family in the messages, which end with `line_end`.
 template <class K>
-static int link_frus(const char *func, libdst_chs_info_t *model, const ids_of<frus> &by_id, const char *word,
-                     const char *line_end = "") {
+static int link_frus(const char *func, libdst_chs_info_t *model, const char *word, const char *line_end = "") {
     if (!K::list(model).tqh_first) {
         log_at(LOG_INFO, func, "%s info list is empty!%s", word, line_end);
         return 0;
@@ -22,8 +36,12 @@ static int link_frus(const char *func, libdst_chs_info_t *model, const ids_of<fr
         log_err(func, "fru info list is empty!%s", line_end);
         return -1;
     }
+    if (!fru_index::standing) {
+        const fru_index of_this_pass(model);
+        return link_frus<K>(func, model, word, line_end);
+    }
     for (auto &node : entries(K::list(model))) {
-        fru_info_t *fru = by_id.first(node.fru_id).record;
+        fru_info_t *fru = fru_index::standing->first(node.fru_id).record;
         if (!fru) {
             log_err(func, "Invalid fru info in %s info!%s", word, line_end);
             return -1;
@@ -50,50 +68,26 @@ static void link_i2c_devices(const ids_of<i2c_devices> &by_id, fru_module_list_t
 
 } // namespace dst
 
-int libdst_dev_trans_fpc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::fpcs>(__func__, model, frus, "fpc");
+int libdst_dev_trans_fpc(libdst_chs_info_t *model) { return dst::link_frus<dst::fpcs>(__func__, model, "fpc"); }
+int libdst_dev_trans_sib(libdst_chs_info_t *model) { return dst::link_frus<dst::sibs>(__func__, model, "sib"); }
+int libdst_dev_trans_fpm(libdst_chs_info_t *model) { return dst::link_frus<dst::fpms>(__func__, model, "fpm"); }
+int libdst_dev_trans_ftc(libdst_chs_info_t *model) { return dst::link_frus<dst::ftcs>(__func__, model, "ftc"); }
+int libdst_dev_trans_cb(libdst_chs_info_t *model) { return dst::link_frus<dst::cbs>(__func__, model, "cb"); }
+int libdst_dev_trans_pem(libdst_chs_info_t *model) { return dst::link_frus<dst::pems>(__func__, model, "pem"); }
+int libdst_dev_trans_fan(libdst_chs_info_t *model) { return dst::link_frus<dst::fans>(__func__, model, "fan"); }
+int libdst_dev_trans_pic(libdst_chs_info_t *model) { return dst::link_frus<dst::pics>(__func__, model, "pic"); }
+int libdst_dev_trans_tib(libdst_chs_info_t *model) { return dst::link_frus<dst::tibs>(__func__, model, "tib", "\n"); }
+int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model) {
+    return dst::link_frus<dst::tmpsnrs>(__func__, model, "temperature sensor");
 }
-int libdst_dev_trans_sib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::sibs>(__func__, model, frus, "sib");
+int libdst_dev_trans_voltsnr(libdst_chs_info_t *model) {
+    return dst::link_frus<dst::voltsnrs>(__func__, model, "voltage sensor");
 }
-int libdst_dev_trans_fpm(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::fpms>(__func__, model, frus, "fpm");
-}
-int libdst_dev_trans_ftc(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::ftcs>(__func__, model, frus, "ftc");
-}
-int libdst_dev_trans_cb(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::cbs>(__func__, model, frus, "cb");
-}
-int libdst_dev_trans_pem(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::pems>(__func__, model, frus, "pem");
-}
-int libdst_dev_trans_fan(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::fans>(__func__, model, frus, "fan");
-}
-int libdst_dev_trans_pic(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::pics>(__func__, model, frus, "pic");
-}
-int libdst_dev_trans_tib(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::tibs>(__func__, model, frus, "tib", "\n");
-}
-int libdst_dev_trans_tmpsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::tmpsnrs>(__func__, model, frus, "temperature sensor");
-}
-int libdst_dev_trans_voltsnr(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::voltsnrs>(__func__, model, frus, "voltage sensor");
-}
-int libdst_dev_trans_led(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::leds>(__func__, model, frus, "led");
-}
-int libdst_dev_trans_lcd(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::lcds>(__func__, model, frus, "lcd");
-}
-int libdst_dev_trans_btn(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
-    return dst::link_frus<dst::btns>(__func__, model, frus, "btn");
-}
+int libdst_dev_trans_led(libdst_chs_info_t *model) { return dst::link_frus<dst::leds>(__func__, model, "led"); }
+int libdst_dev_trans_lcd(libdst_chs_info_t *model) { return dst::link_frus<dst::lcds>(__func__, model, "lcd"); }
+int libdst_dev_trans_btn(libdst_chs_info_t *model) { return dst::link_frus<dst::btns>(__func__, model, "btn"); }
 
-int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus) {
+int libdst_dev_trans_fru(libdst_chs_info_t *model) {
     if (!model->fru_info.tqh_first) {
         dst::log_at(LOG_INFO, __func__, "fru info list is empty!");
         return 0;
@@ -101,6 +95,10 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> 
     if (!model->chs_cinfo.i2cdev_info_list.tqh_first) {
         dst::log_at(LOG_INFO, __func__, "i2c dev info list is empty!");
         return 0;
+    }
+    if (!dst::fru_index::standing) {
+        const dst::fru_index of_this_pass(model);
+        return libdst_dev_trans_fru(model);
     }
     const dst::ids_of<dst::i2c_devices> devices(model);
     for (fru_module_list_t &entry : dst::entries(model->fru_info)) {
@@ -117,7 +115,7 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> 
         entry.fru_minfo.parent = nullptr;
         if (entry.parent_id == dst::no_parent)
             continue;
-        entry.fru_minfo.parent = frus.first(entry.parent_id).record;
+        entry.fru_minfo.parent = dst::fru_index::standing->first(entry.parent_id).record;
         if (!entry.fru_minfo.parent) {
             dst::log_err(__func__, "Invalid parent fru dev info!");
             return -1;
@@ -128,7 +126,7 @@ int libdst_dev_trans_fru(libdst_chs_info_t *model, const dst::ids_of<dst::frus> 
 
 int libdst_dev_transform_handler(libdst_chs_info_t *model) {
     static const struct {
-        int (*pass)(libdst_chs_info_t *model, const dst::ids_of<dst::frus> &frus);
+        int (*pass)(libdst_chs_info_t *model);
         const char *failure;
         bool fatal;
     } passes[] = {
@@ -148,9 +146,9 @@ int libdst_dev_transform_handler(libdst_chs_info_t *model) {
         {libdst_dev_trans_btn, "Failed in setting the i2c dev ptr in btn info!\n", true},
         {libdst_dev_trans_fru, "Failed in setting the i2c dev ptr in fru info!\n", true},
     };
-    const dst::ids_of<dst::frus> frus(model);
+    const dst::fru_index index(model);
     for (const auto &step : passes) {
-        const int rc = dst::check(__func__, step.pass(model, frus), step.failure);
+        const int rc = dst::check(__func__, step.pass(model), step.failure);
         if (rc < 0 && step.fatal)
             return rc;
     }

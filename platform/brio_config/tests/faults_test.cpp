@@ -128,9 +128,11 @@ TEST(Faults, AFileThatIsTooLargeIsRefusedUnreadAndOneThatGrowsAtTheLimit) {
     };
     expect_refusal((512 << 20) + 1);
     EXPECT_EQ(calls["read"], 0);
-    endless = true;
-    expect_refusal(1);
-    endless = false;
+    if constexpr (sizeof(void *) > 4) { // as far as pointers beyond what is there go
+        endless = true;
+        expect_refusal(1);
+        endless = false;
+    }
 }
 
 } // namespace

@@ -30,4 +30,4 @@
 #define ENUMERATOR(name, value) static_assert(name == value, #name " is not " #value);
 #define COUNT(table, rows)                                                                                             \
     static_assert(sizeof(table) == (rows) * sizeof(char *), #table " does not have " #rows " rows");
-#include "layout.def"
+#include "chsinfo/layout.def"

@@ -1,4 +1,4 @@
-// A new record or member: its row in tests/abi/layout.def.
+// A new record or member: its row in chsinfo/layout.def.
 #include "members.h"
 
 #include <cinttypes>
@@ -13,7 +13,7 @@ namespace {
 // Null for what is no record.
 template <class T> constexpr const char *record_name = nullptr;
 #define RECORD(type, in32, in64) template <> constexpr const char *record_name<type> = #type;
-#include "../abi/layout.def"
+#include "chsinfo/layout.def"
 
 using lines = std::vector<std::string>;
 
@@ -91,7 +91,7 @@ constexpr struct {
     void (*show)(lines &out, std::size_t line, const char *name, const void *at);
 } rows[] = {
 #define MEMBER(type, member, in32, in64) {#type, #member, offsetof(type, member), show<decltype(type::member)>},
-#include "../abi/layout.def"
+#include "chsinfo/layout.def"
 };
 
 void show_record(lines &out, const char *name, const void *record) {

@@ -102,5 +102,7 @@ int verb_show(int count, char **words) {
         return status;
     display_dst_info();
     libdst_release();
-    return std::fflush(stdout) == 0 ? exit_done : exit_refused;
+    if (std::fflush(stdout) == 0 && !std::ferror(stdout))
+        return exit_done;
+    return refuse("the model could not be written to standard output");
 }

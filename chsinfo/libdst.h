@@ -793,6 +793,9 @@ typedef struct _ss2rpm_fan_info_list_s {
     ROW(CTRL_TYPE_GFC0812, gfc0812_module_info_t, gfc0812_fan_info_t)                                                  \
     ROW(CTRL_TYPE_9HV0812, haskel_9hv0812_module_info_t, haskel_9hv0812_fan_info_t)
 
+/** The module record that a tray begins, for the record that DST_FAN_MODULES has for its `ctrl_type`. */
+#define DST_FAN_MODULE(module_record, tray) ((const module_record *)(const void *)(tray))
+
 /** A fan tray: "FAN". It begins the fan module record that DST_FAN_MODULES has for its `ctrl_type`: a pointer to the
  * one is a pointer to the other. Owned by the model; valid until libchs_release(). */
 typedef struct _fan_info_s {

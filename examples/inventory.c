@@ -12,11 +12,10 @@ static void print_board(int depth, const char *name, ctrl_type_t controller, uin
 
 /* A tray begins the module record of its controller. */
 static void print_fans(int depth, const fan_info_t *tray) {
-    const void *record = tray;
     switch (tray->ctrl_type) {
 #define PRINT_FANS(controller, module_record, fan_record)                                                              \
     case controller: {                                                                                                 \
-        const module_record *module = record;                                                                          \
+        const module_record *module = DST_FAN_MODULE(module_record, tray);                                             \
         const fan_record *fan;                                                                                         \
         TAILQ_FOREACH(fan, &module->fan_info, fan_info_next) {                                                         \
             printf("%*sfan %u: %s\n", depth, "", fan->fan_id, fan->name);                                              \

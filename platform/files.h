@@ -35,23 +35,8 @@ class descriptor {
     int fd_;
 };
 
-// Opens without waiting for the writer of a FIFO, and files of any size in 32 bit. Negative, with errno, for what
-// cannot be opened.
-inline int open_for_reading(const char *path) {
-    int opened;
-    do
-        opened = open64(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    while (opened < 0 && errno == EINTR);
-    return opened;
-}
-
-// Whether an open file may be read: a regular one, which is none of the kernel's own: those may wait forever, have no
-// size, or act on being read.
-inline bool is_plain_file(int fd) {
-    struct stat64 status;
-    struct statfs64 system;
-    if (fstat64(fd, &status) != 0 || !S_ISREG(status.st_mode) || fstatfs64(fd, &system) != 0)
-        return false;
+// The kernel's own file systems: their files may wait forever, have no size, or act on being read.
+inline bool is_of_the_kernel(const struct statfs64 &system) {
     switch (static_cast<std::uint32_t>(system.f_type)) {
     case PROC_SUPER_MAGIC:
     case SYSFS_MAGIC:
@@ -61,10 +46,39 @@ inline bool is_plain_file(int fd) {
     case CGROUP_SUPER_MAGIC:
     case CGROUP2_SUPER_MAGIC:
     case BPF_FS_MAGIC:
-        return false;
-    default:
+    case BINFMTFS_MAGIC:
+    case EFIVARFS_MAGIC:
+    case PSTOREFS_MAGIC:
+    case RDTGROUP_SUPER_MAGIC:
+    case SELINUX_MAGIC:
+    case SMACK_MAGIC:
         return true;
+    default:
+        return false;
     }
+}
+
+// Opens a regular file, of any size in 32 bit, that is none of the kernel's own. Negative, with errno, for what cannot
+// be opened; with errno 0 for anything else, which is not touched unless it takes the file's place at that moment, and
+// never waited for.
+inline int open_plain_file(const char *path) {
+    struct stat64 status;
+    struct statfs64 system;
+    if (stat64(path, &status) != 0)
+        return -1;
+    if (S_ISREG(status.st_mode)) {
+        int opened;
+        do
+            opened = open64(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+        while (opened < 0 && errno == EINTR);
+        descriptor file(opened);
+        if (opened < 0 || fstat64(opened, &status) != 0 || fstatfs64(opened, &system) != 0)
+            return -1;
+        if (S_ISREG(status.st_mode) && !is_of_the_kernel(system))
+            return file.release();
+    }
+    errno = 0;
+    return -1;
 }
 
 } // namespace dst

@@ -93,15 +93,12 @@ heap_text read_all(int fd, std::size_t &size) {
 
 // A file that is not there is nothing to log.
 heap_text read_file(const char *path, std::size_t &size) {
-    const dst::descriptor file(dst::open_for_reading(path));
+    const dst::descriptor file(dst::open_plain_file(path));
     if (file.get() < 0 && errno == ENOENT)
         return nullptr;
     heap_text text;
-    if (file.get() >= 0) {
-        errno = 0; // stays so for a file that is not plain
-        if (dst::is_plain_file(file.get()))
-            text = read_all(file.get(), size);
-    }
+    if (file.get() >= 0)
+        text = read_all(file.get(), size);
     if (!text && errno == EFBIG)
         syslog(LOG_ERR, "%s: larger than %zu bytes", path, max_bytes);
     else if (!text)

@@ -66,7 +66,7 @@ load_result load_config(const std::string &tree, const std::string &simulation) 
     return load();
 }
 
-void place_example(const std::string &name, form source) {
+static void place_example(const std::string &name, form source) {
     write_platform_file("chassis_dst.xml", "");
     for (const auto &file : std::filesystem::directory_iterator(DST_SHARE "/examples/" + name))
         if ((file.path().extension() == ".conf") == (source == form::config))

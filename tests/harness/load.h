@@ -34,8 +34,5 @@ void write_config(const std::string &tree, const std::string &simulation = "");
 enum class form { xml, config };
 load_result load_example(const std::string &name, form source = form::xml);
 
-// Puts what load_example() loads into /var/platform.
-void place_example(const std::string &name, form source);
-
 // Whether every byte of `chs_info` is zero.
 bool model_is_zero();

@@ -101,6 +101,9 @@ dstctl 1 show "$scratch/wrong.xml"
 grep -q 'Unable to parse schemas context' "$scratch/err" || fail "the schema beside the document comes first"
 dstctl 0 show --schema "$prefix/share/libdst/chassis_dst_schema.xsd" "$examples/small/chassis_dst.xml"
 dstctl 0 show "$examples/fixed-1u/chassis_dst.conf"
+status=0
+"$prefix/bin/dstctl" show "$examples/small/chassis_dst.xml" >/dev/full 2>/dev/null || status=$?
+[ "$status" = 2 ] || fail "dstctl show ends with $status when its output is lost"
 grep -q 'error: 10: changed ID is !' "$scratch/err" || fail "the simulation tree beside the configuration tree"
 grep -q '^</CHASSIS>$' "$scratch/out" || fail "the model of a configuration tree"
 printf 'CHASSIS = {\nVERSION 1;\n};\n' >"$scratch/wrong.conf"

@@ -198,6 +198,12 @@ const failing_load failing_loads[] = {
      {},
      "/var/platform/chassis_dst.xml fails in validation!\n",
      "chassis_dst.xml:2: element VERSION: Schemas validity error"},
+    {"an entity among the texts",
+     strict_schema,
+     "<!DOCTYPE CHASSIS [<!ENTITY three '3'>]><CHASSIS>\n<VERSION>&three;</VERSION></CHASSIS>",
+     {},
+     "/var/platform/chassis_dst.xml validation generated an internal error!\n",
+     "chassis_dst.xml:2: element VERSION: &three; is no text"},
     {"root not in the schema", nullptr, "<box/>", {}, "/var/platform/chassis_dst.xml fails in validation!\n", "box"},
 };
 

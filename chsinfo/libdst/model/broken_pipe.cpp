@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <stdio_ext.h>
 
 namespace dst {
 
@@ -24,8 +23,7 @@ broken_pipe_guard::broken_pipe_guard() : pending_(is_pending()) {
 }
 
 broken_pipe_guard::~broken_pipe_guard() {
-    if (std::fflush(stdout) != 0 && errno == EPIPE)
-        __fpurge(stdout);
+    std::fflush(stdout); // what cannot be written is dropped
     const sigset_t blocked = only_sigpipe();
     const timespec at_once{};
     while (!pending_ && is_pending() && (sigtimedwait(&blocked, nullptr, &at_once) >= 0 || errno == EINTR))

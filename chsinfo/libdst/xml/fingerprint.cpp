@@ -20,7 +20,10 @@ class fingerprint {
   public:
     std::uint64_t value() const { return value_; }
     void add(std::uint64_t number) { value_ = (value_ ^ number) * prime; }
-    void add_text(const xmlChar *text) { value_ = hash_of(text, value_); }
+    void add_text(const xmlChar *text) {
+        value_ = hash_of(text, value_);
+        add(0); // no text holds it: what follows is none of it
+    }
 
     // libxml2 keeps a name once for a whole document: it is known by its address.
     void add_name(const xmlChar *text) {
@@ -37,7 +40,7 @@ class fingerprint {
         const xmlChar *text;
         std::uint64_t hash;
     };
-    std::uint64_t value_ = 0;
+    std::uint64_t value_ = UINT64_C(0xCBF29CE484222325);
     known_name names_[256] = {};
 };
 
@@ -47,7 +50,7 @@ void add_attributes(fingerprint &print, const xmlNode *element) {
         if (one->ns)
             print.add_name(one->ns->href);
         for (const xmlNode *part = one->children; part; part = part->next) {
-            print.add(part->type);
+            print.add(256U + part->type); // no byte, no node
             print.add_text(part->type == XML_TEXT_NODE ? part->content : part->name);
         }
     }

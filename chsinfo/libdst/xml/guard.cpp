@@ -1,6 +1,7 @@
 #include "guard.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <strings.h>
 
@@ -40,14 +41,12 @@ static void *context_of(int fd) {
 }
 static int descriptor_of(void *context) { return static_cast<int>(reinterpret_cast<std::intptr_t>(context)); }
 
-libxml2_guard::libxml2_guard() : catalogues_(xmlCatalogGetDefaults()), loader_(xmlGetExternalEntityLoader()) {
+libxml2_guard::libxml2_guard() : loader_(xmlGetExternalEntityLoader()) {
     standing = this;
     xmlSetExternalEntityLoader(open_input);
-    xmlCatalogSetDefaults(XML_CATA_ALLOW_NONE);
 }
 
 libxml2_guard::~libxml2_guard() {
-    xmlCatalogSetDefaults(catalogues_);
     xmlSetExternalEntityLoader(loader_);
     standing = nullptr;
 }
@@ -61,6 +60,8 @@ xmlParserInputPtr libxml2_guard::open_input(const char *url, const char *, xmlPa
 constexpr char too_many_files[] = "a load opens at most 10,000 files";
 constexpr char too_many_bytes[] = "a load reads at most 2 GiB";
 static_assert(max_files == 10000 && max_document_bytes == INT64_C(2) << 30, "the texts say so");
+
+constexpr char not_local[] = "not a local regular file";
 
 static xmlParserInputPtr refuse(const char *url, const char *reason) {
     xmlGenericError(xmlGenericErrorContext, "%s: %s\n", url, reason);
@@ -82,25 +83,23 @@ xmlParserInputPtr libxml2_guard::open_url(const char *url, xmlParserCtxtPtr pars
     const char *const path = local_path(url);
     const char *const plain_path = unescaped ? local_path(unescaped.get()) : path;
     if (!path || !plain_path)
-        return refuse(url, "not a local regular file");
-    int opened = open_for_reading(plain_path);
+        return refuse(url, not_local);
+    int opened = open_plain_file(plain_path);
     if (opened < 0 && errno == ENOENT)
-        opened = open_for_reading(path);
+        opened = open_plain_file(path);
     descriptor file(opened);
     if (opened < 0)
-        return refuse(url, std::strerror(errno));
+        return refuse(url, errno ? std::strerror(errno) : not_local);
     return input_of(file, url, parser);
 }
 
 xmlParserInputPtr libxml2_guard::input_of(descriptor &file, const char *url, xmlParserCtxtPtr parser) {
-    struct stat64 status;
-    if (!is_plain_file(file.get()) || fstat64(file.get(), &status) != 0)
-        return refuse(url, "not a local regular file");
+    struct stat64 status {};
     if (is_compressed(file.get()))
         return refuse(url, "compressed files are not read");
     if (files_ == max_files)
         return cut(url, too_many_files);
-    if (status.st_size > max_document_bytes - bytes_)
+    if (fstat64(file.get(), &status) == 0 && status.st_size > max_document_bytes - bytes_)
         return cut(url, too_many_bytes);
     ++files_;
     xmlParserInputBufferPtr buffer =
@@ -116,15 +115,27 @@ xmlParserInputPtr libxml2_guard::input_of(descriptor &file, const char *url, xml
     return input;
 }
 
+// A file that was opened is cut where it cannot be read any more, or where it grows.
+void libxml2_guard::cut(int fd, const char *reason) {
+    char link[sizeof "/proc/self/fd/" + 3 * sizeof fd];
+    char path[PATH_MAX] = "a file of the description";
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    const ssize_t length = readlink(link, path, sizeof path - 1);
+    if (length > 0)
+        path[length] = '\0';
+    cut(path, reason);
+}
+
 int libxml2_guard::read_input(void *context, char *buffer, int size) {
+    const int fd = descriptor_of(context);
     ssize_t count;
     do
-        count = read(descriptor_of(context), buffer, static_cast<std::size_t>(size));
+        count = read(fd, buffer, static_cast<std::size_t>(size));
     while (count < 0 && errno == EINTR);
     if (count < 0)
-        standing->cut("a file of the description", std::strerror(errno));
-    else if ((standing->bytes_ += count) > max_document_bytes) // one that grows
-        standing->cut("a file of the description", too_many_bytes);
+        standing->cut(fd, std::strerror(errno));
+    else if ((standing->bytes_ += count) > max_document_bytes)
+        standing->cut(fd, too_many_bytes);
     return standing->cut_ ? -1 : static_cast<int>(count);
 }
 
@@ -146,10 +157,10 @@ reading_watch::reading_watch()
 }
 
 reading_watch::~reading_watch() {
-    give_back();
-    reads_document = false;
     if (stream_)
         std::fclose(stream_);
+    give_back();
+    reads_document = false;
 }
 
 bool reading_watch::ran_out_of_memory() const { return ran_out_ || out_of_memory(); }

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <utility>
 
-#include <libxml/catalog.h>
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>
 
@@ -33,8 +32,9 @@ template <class T> class exchanged {
 };
 
 // What the host chose for its own documents changes nothing in a load. libxml2 opens local regular files alone, by the
-// names that the documents give and through no loader or callback of the host; no catalogue tells of others; within the
-// limits of platform/files.h. A file that is refused is named on the host's error stream, with the reason.
+// names that the documents give, through no loader, callback or catalogue of the host, and within the limits of
+// platform/files.h. A file that is refused is named to the host's error function, with the reason. To end before
+// xmlCleanupParser(), which may free what the settings stand in.
 class libxml2_guard {
   public:
     libxml2_guard();
@@ -52,14 +52,10 @@ class libxml2_guard {
     xmlParserInputPtr open_url(const char *url, xmlParserCtxtPtr parser);
     xmlParserInputPtr input_of(descriptor &file, const char *url, xmlParserCtxtPtr parser);
     xmlParserInputPtr cut(const char *url, const char *reason);
+    void cut(int fd, const char *reason);
 
     const exchanged<int> entities_{xmlSubstituteEntitiesDefaultValue, 0};
     const exchanged<int> validity_{xmlDoValidityCheckingDefaultValue, 0};
-    const exchanged<int> external_dtds_{xmlLoadExtDtdDefaultValue, 0};
-    const exchanged<int> blanks_{xmlKeepBlanksDefaultValue, 1};
-    const exchanged<int> pedantic_{xmlPedanticParserDefaultValue, 0};
-    const exchanged<int> warnings_{xmlGetWarningsDefaultValue, 1};
-    const xmlCatalogAllow catalogues_;
     const xmlExternalEntityLoader loader_;
     int files_ = 0;
     std::int64_t bytes_ = 0;

@@ -35,27 +35,12 @@ struct schema_types {
 // read, or not in full: libxml2 hands out what it has when memory runs out.
 static document read_document(const char *func, const char *path, int options) {
     const reading_watch watch;
-    document doc(xmlReadFile(path, nullptr, options | XML_PARSE_NOBASEFIX));
+    document doc(xmlReadFile(path, nullptr, options));
     if (!doc || watch.ran_out_of_memory())
         return nullptr;
     if (xmlXIncludeProcessFlags(doc.get(), XML_PARSE_NONET | XML_PARSE_NOBASEFIX) < 1)
         log_at(LOG_DEBUG, func, "Could not apply the XInclude process");
     return watch.ran_out_of_memory() || libxml2_guard::has_cut() ? nullptr : std::move(doc);
-}
-
-// The file that a node was written in: the reference of the XInclude around it, or the document.
-static const char *file_of(const xmlNode *node) {
-    int ended = 0;
-    for (const xmlNode *at = node; at; at = at->prev ? at->prev : at->parent) {
-        ended += at->type == XML_XINCLUDE_END;
-        if (at->type != XML_XINCLUDE_START || ended-- > 0)
-            continue;
-        for (const xmlAttr *one = at->properties; one; one = one->next)
-            if (xmlStrEqual(one->name, BAD_CAST "href") && one->children)
-                return reinterpret_cast<const char *>(one->children->content);
-        ended = 0;
-    }
-    return reinterpret_cast<const char *>(node->doc->URL);
 }
 
 // Validation ends without a word at an entity among the texts. (In attributes, entities are read.)
@@ -64,7 +49,7 @@ static void complain_of_entity(const xmlDoc *doc) {
     while (node && node->type != XML_ENTITY_REF_NODE)
         node = next_node(node);
     if (node)
-        std::fprintf(stderr, "%s:%ld: element %s: &%s; is no text: write what it stands for\n", file_of(node),
+        std::fprintf(stderr, "%s:%ld: element %s: &%s; is no text: write what it stands for\n", doc->URL,
                      xmlGetLineNo(node->parent), node->parent->name, node->name);
 }
 
@@ -93,7 +78,7 @@ void libxml_shutdown(void) { xmlCleanupParser(); }
 
 // The objects are declared in the reverse order of their release.
 int libdst_xml_validation(const dst::xml_source &source, std::uint64_t *fingerprint) {
-    // Errors of the schema and of the validation carry line numbers only while this default is on.
+    // For the messages, whatever the host prefers.
     const dst::exchanged<int> numbered(xmlLineNumbersDefaultValue, 1);
     const dst::schema_types types;
     dst::schema schema;
@@ -160,15 +145,20 @@ static int read_model(const char *func, const char *path, std::uint64_t fingerpr
     return libdst_dev_transform_handler(model);
 }
 
+static int read_guarded(const char *func, const dst::xml_source &source, libdst_chs_info_t *model) {
+    const dst::libxml2_guard guard;
+    std::uint64_t valid = 0;
+    const int rc = libdst_xml_validation(source, &valid);
+    if (rc < 0)
+        return dst::check(func, rc, "Failed to validate Device Specification XML");
+    return read_model(func, source.document, valid, model);
+}
+
 int libdst_xml_parse(const dst::xml_source &source) {
     libdst_chs_info_t *model = libdst_get_chs_info();
     libdst_info_init(model);
     const dst::broken_pipe_guard printing;
-    const dst::libxml2_guard guard;
-    std::uint64_t valid = 0;
-    int rc = dst::check(__func__, libdst_xml_validation(source, &valid), "Failed to validate Device Specification XML");
-    if (rc >= 0)
-        rc = read_model(__func__, source.document, valid, model);
+    const int rc = read_guarded(__func__, source, model);
     if (rc < 0)
         libdst_release();
     libxml_shutdown();

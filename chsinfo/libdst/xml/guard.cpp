@@ -26,12 +26,11 @@ static const char *local_path(const char *url) {
 }
 
 static bool is_compressed(int fd) {
-    char head[6];
+    static constexpr char gzip[] = {'\x1F', '\x8B'};
+    static constexpr char xz[] = {'\xFD', '7', 'z', 'X', 'Z', '\0'};
+    char head[sizeof xz];
     return pread(fd, head, sizeof head, 0) == sizeof head &&
-           (std::memcmp(head, "\x1f\x8b", 2) == 0 || std::memcmp(head,
-                                                                 "\xFD"
-                                                                 "7zXZ",
-                                                                 6) == 0);
+           (std::memcmp(head, gzip, sizeof gzip) == 0 || std::memcmp(head, xz, sizeof xz) == 0);
 }
 
 // What libxml2 hands back to the callbacks of an input: a number, which nobody follows.

@@ -3,6 +3,7 @@
 
 #include "../harness/load.h"
 #include "chsinfo/libdst/model/kinds.h"
+#include "chsinfo/libdst/model/link.h"
 #include "chsinfo/libdst/model/model.h"
 #include "chsinfo/libdst/model/names.h"
 #include "chsinfo/libdst/xml/load.h"
@@ -100,6 +101,23 @@ TEST(Root, AnEmptyDocumentHasNone) {
     EXPECT_EQ(libdst_root_handler(doc, &model), -1);
     EXPECT_EQ(texts_of(take_log(), LOG_ERR), lines{"libdst_root_handler: Device Specification XML file is empty!"});
     xmlFreeDoc(doc);
+}
+
+TEST(Link, APassAloneFindsFrus) {
+    ASSERT_EQ(
+        load("<DEVICE type='i2c'><I2CDEV id='5' type='PIC'/></DEVICE><DEVICE type='FRU'><FRUDEV id='3' "
+             "type='PIC'><PARENT>3</PARENT>"
+             "<I2CDEVID>5</I2CDEVID></FRUDEV></DEVICE><DEVICE type='PIC' ctrl='PIC' id='0'><FRUID>3</FRUID></DEVICE>")
+            .status,
+        0);
+    fru_info_t &fru = chs_info.fru_info.tqh_first->fru_minfo;
+    pic_info_t &pic = *chs_info.pic_info.tqh_first->pic_minfo;
+    pic.fru_info = fru.parent = nullptr;
+    EXPECT_EQ(libdst_dev_trans_pic(&chs_info), 0);
+    EXPECT_EQ(libdst_dev_trans_fru(&chs_info), 0);
+    EXPECT_EQ(pic.fru_info, &fru);
+    EXPECT_EQ(fru.parent, &fru);
+    libchs_release();
 }
 
 } // namespace

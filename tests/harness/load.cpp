@@ -66,16 +66,12 @@ load_result load_config(const std::string &tree, const std::string &simulation) 
     return load();
 }
 
-static void place_example(const std::string &name, form source) {
+load_result load_example(const std::string &name, form source) {
     write_platform_file("chassis_dst.xml", "");
     for (const auto &file : std::filesystem::directory_iterator(DST_SHARE "/examples/" + name))
         if ((file.path().extension() == ".conf") == (source == form::config))
             write_platform_file(file.path().filename(), read_file(file.path()));
     write_platform_file("chassis_dst_schema.xsd", read_file(DST_SHARE "/chassis_dst_schema.xsd"));
-}
-
-load_result load_example(const std::string &name, form source) {
-    place_example(name, source);
     return load();
 }
 
